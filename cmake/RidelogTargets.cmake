@@ -1,0 +1,25 @@
+# How every target of the project is made: one set of warnings and one set of arithmetic rules for all.
+
+add_library(ridelog_flags INTERFACE)
+target_compile_features(ridelog_flags INTERFACE cxx_std_20)
+target_compile_options(ridelog_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
+  # Results have to be the same to the last digit everywhere: no fused multiply-add behind our back.
+  -ffp-contract=off)
+target_compile_definitions(ridelog_flags INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+if(RIDELOG_SANITIZE)
+  target_compile_options(ridelog_flags INTERFACE
+    -fsanitize=${RIDELOG_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(ridelog_flags INTERFACE -fsanitize=${RIDELOG_SANITIZE})
+endif()
+if(RIDELOG_FUZZ)
+  target_compile_options(ridelog_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
+# ridelog_folder(NAME SOURCES ... LINK ...): the library of the folder src/NAME, as ridelog_NAME.
+function(ridelog_folder name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
+  add_library(ridelog_${name} STATIC ${arg_SOURCES})
+  target_include_directories(ridelog_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(ridelog_${name} PUBLIC ${arg_LINK} PRIVATE ridelog_flags)
+endfunction()

@@ -1,0 +1,138 @@
+#include "cli/CommandLine.h"
+
+#include "platform/CalendarDate.h"
+#include "platform/Log.h"
+
+#include <QCommandLineParser>
+#include <QMap>
+
+#include <algorithm>
+#include <optional>
+
+namespace ridelog {
+namespace {
+
+const QString programName = QStringLiteral("ridelog-cli");
+
+QString programHelp()
+{
+    QString text =
+        QStringLiteral("Usage: %1 COMMAND [OPTIONS] ARGUMENTS\n\n"
+                       "Reads, shows and makes the tours of a cycle computer, without a window.\n\n"
+                       "Commands:\n")
+            .arg(programName);
+    for (const auto& command : allCommands())
+        text += QStringLiteral("  %1 %2\n").arg(command->name().leftJustified(12), command->description());
+    text += QStringLiteral("\nOptions:\n"
+                           "  --help       Shows this help; after a command, the help of the command\n"
+                           "  --version    Shows the version\n");
+    return text;
+}
+
+QCommandLineOption logOption()
+{
+    return {QStringLiteral("log"),
+            QStringLiteral("What of the log goes to standard error: none (the default), errors or trace."),
+            QStringLiteral("level"), QStringLiteral("none")};
+}
+
+QCommandLineOption nowOption()
+{
+    return {QStringLiteral("now"),
+            QStringLiteral("Stands in for the current date, in local time: 2007-03-10T12:00:00."),
+            QStringLiteral("time")};
+}
+
+QCommandLineOption milesOption()
+{
+    return {QStringLiteral("miles"), QStringLiteral("Shows miles, mph and feet. JSON stays metric.")};
+}
+
+std::optional<LogLevel> logLevelOf(const QString& name)
+{
+    static const QMap<QString, LogLevel> levels{{QStringLiteral("none"), LogLevel::none},
+                                                {QStringLiteral("errors"), LogLevel::errors},
+                                                {QStringLiteral("trace"), LogLevel::trace}};
+    const auto found = levels.find(name);
+    return found == levels.end() ? std::nullopt : std::optional(*found);
+}
+
+/// A local time like 2007-03-10T12:00:00, seconds may be left out.
+std::optional<QDateTime> localTimeOf(const QString& text)
+{
+    const auto day = QDate::fromString(text.left(10), QStringLiteral("yyyy-MM-dd"));
+    auto time = QTime::fromString(text.mid(11), QStringLiteral("HH:mm:ss"));
+    if (!time.isValid())
+        time = QTime::fromString(text.mid(11), QStringLiteral("HH:mm"));
+    if (!day.isValid() || !time.isValid() || text[10] != u'T')
+        return std::nullopt;
+    return CalendarDate::fromFields(day.year(), day.month(), day.day(), time.hour(), time.minute(),
+                                    time.second(), CalendarDate::localTimeZone());
+}
+
+ExitStatus runCommand(const Command& command, const QStringList& words)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(command.description());
+    parser.addPositionalArgument(command.name(), QString());
+    for (const auto& argument : command.arguments())
+        parser.addPositionalArgument(argument.name, argument.description);
+    parser.addOptions(command.options());
+    parser.addOptions({logOption(), nowOption(), milesOption()});
+    const auto help = parser.addHelpOption();
+
+    const auto hint = QStringLiteral(" (see %1 %2 --help)").arg(programName, command.name());
+    if (!parser.parse(words))
+        return wrongWords(parser.errorText() + hint);
+    if (parser.isSet(help)) {
+        const auto usage = QStringLiteral("[options] ") + command.name();
+        return print(parser.helpText().replace(usage, command.name() + QStringLiteral(" [options]")));
+    }
+
+    const auto level = logLevelOf(parser.value(QStringLiteral("log")));
+    if (!level)
+        return wrongWords(QStringLiteral("--log takes none, errors or trace") + hint);
+    setLogLevel(*level);
+
+    auto now = CalendarDate::now();
+    if (parser.isSet(QStringLiteral("now"))) {
+        const auto given = localTimeOf(parser.value(QStringLiteral("now")));
+        if (!given)
+            return wrongWords(QStringLiteral("--now takes a time like 2007-03-10T12:00:00") + hint);
+        now = *given;
+    }
+
+    const auto arguments = parser.positionalArguments().mid(1);
+    const auto wanted = command.arguments();
+    if (arguments.size() < wanted.size())
+        return wrongWords(QStringLiteral("%1 is missing").arg(wanted[arguments.size()].name) + hint);
+    if (arguments.size() > wanted.size())
+        return wrongWords(QStringLiteral("'%1' is one word too many").arg(arguments[wanted.size()]) + hint);
+
+    return command.execute({.options = parser,
+                            .arguments = arguments,
+                            .now = now,
+                            .miles = parser.isSet(QStringLiteral("miles"))});
+}
+
+} // namespace
+
+ExitStatus runCommandLine(const QStringList& words)
+{
+    const auto first = words.value(1);
+    if (first == QStringLiteral("--help") || first == QStringLiteral("-h"))
+        return print(programHelp());
+    if (first == QStringLiteral("--version") || first == QStringLiteral("-v"))
+        return print(QStringLiteral("%1 %2\n").arg(programName, QStringLiteral(RIDELOG_VERSION)));
+
+    const auto& commands = allCommands();
+    const auto command = std::ranges::find(commands, first, [](const auto& one) { return one->name(); });
+    if (command != commands.end())
+        return runCommand(**command, words);
+    const auto hint = QStringLiteral(" (see %1 --help)").arg(programName);
+    if (first.isEmpty())
+        return wrongWords(QStringLiteral("a command is missing") + hint);
+    return wrongWords(QStringLiteral("there is no command '%1'").arg(first) + hint);
+}
+
+} // namespace ridelog

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "cli/Command.h"
+
+namespace ridelog {
+
+/// Decodes a raw dump and shows its general data and tours.
+class InspectCommand final : public Command {
+public:
+    QString name() const override;
+    QString description() const override;
+    QList<Argument> arguments() const override;
+    QList<QCommandLineOption> options() const override;
+    ExitStatus execute(const CommandContext& context) const override;
+};
+
+} // namespace ridelog

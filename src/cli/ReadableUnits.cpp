@@ -1,0 +1,37 @@
+#include "cli/ReadableUnits.h"
+
+#include "format/UnitFactors.h"
+
+namespace ridelog {
+
+double ReadableUnits::distance(float kilometres) const
+{
+    return _miles ? kilometres * UnitFactors::milesPerKilometre : static_cast<double>(kilometres);
+}
+
+double ReadableUnits::speed(float kilometresPerHour) const
+{
+    return distance(kilometresPerHour);
+}
+
+double ReadableUnits::altitude(int metres) const
+{
+    return _miles ? metres * UnitFactors::feetPerMetre : metres;
+}
+
+QString ReadableUnits::distanceUnit() const
+{
+    return _miles ? QStringLiteral("mi") : QStringLiteral("km");
+}
+
+QString ReadableUnits::speedUnit() const
+{
+    return _miles ? QStringLiteral("mph") : QStringLiteral("km/h");
+}
+
+QString ReadableUnits::altitudeUnit() const
+{
+    return _miles ? QStringLiteral("ft") : QStringLiteral("m");
+}
+
+} // namespace ridelog

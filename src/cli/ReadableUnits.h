@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+namespace ridelog {
+
+/// Metric values as people want to read them: in kilometres, km/h and metres, or in miles, mph and feet.
+class ReadableUnits {
+public:
+    explicit ReadableUnits(bool miles) : _miles(miles) {}
+
+    double distance(float kilometres) const;
+    double speed(float kilometresPerHour) const;
+    double altitude(int metres) const;
+
+    QString distanceUnit() const;
+    QString speedUnit() const;
+    QString altitudeUnit() const;
+
+private:
+    bool _miles;
+};
+
+} // namespace ridelog

@@ -1,0 +1,240 @@
+#include "decode/OdoData.h"
+
+#include "decode/DecodeLog.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+
+#include <array>
+#include <utility>
+
+namespace ridelog {
+
+Q_LOGGING_CATEGORY(lcDecode, "ridelog.decode")
+
+namespace {
+
+using namespace DumpLayout;
+
+/// A number with its thousands set apart, for messages.
+QString grouped(qint64 number)
+{
+    return QLocale(QLocale::English).toString(number);
+}
+
+QString textForm(const GeneralData& generalData)
+{
+    QString text;
+    for (const auto& field : generalDataFields) {
+        const auto name = field.name.toString();
+        text += QStringLiteral("    \"%1\" = %2;\n").arg(name).arg(generalData.value(name));
+    }
+    return QStringLiteral("{\n%1}").arg(text);
+}
+
+/// What a character counts in a hex field: any character has a value, whether it is a digit or not. Codes are
+/// compared unsigned; the value is a signed byte.
+constexpr std::int8_t hexDigitValue(unsigned char code)
+{
+    return static_cast<std::int8_t>(code <= '@' ? code - 48 : code - 55);
+}
+
+constexpr auto hexDigitValues = [] {
+    std::array<std::int8_t, 256> values{};
+    for (unsigned code = 0; code < values.size(); ++code)
+        values[code] = hexDigitValue(static_cast<unsigned char>(code));
+    return values;
+}();
+
+int hexDigit(char character)
+{
+    return hexDigitValues[static_cast<unsigned char>(character)];
+}
+
+int decimalDigit(char character)
+{
+    return static_cast<std::int8_t>(static_cast<unsigned char>(character) - 48);
+}
+
+} // namespace
+
+OdoData::OdoData(QByteArray data, QDateTime now) : _data(std::move(data)), _now(std::move(now)) {}
+
+OdoData OdoData::initWithData(const QByteArray& data, const QDateTime& now)
+{
+    OdoData decoder(data, now);
+    decoder.parseData();
+    return decoder;
+}
+
+OdoData OdoData::initWithFile(const QString& path, const QDateTime& now)
+{
+    OdoData decoder({}, now);
+    if (!decoder.loadDataFromFile(path))
+        qCWarning(lcDecode, "Could not load file: %s", qUtf8Printable(path));
+    decoder.parseData();
+    return decoder;
+}
+
+bool OdoData::loadDataFromFile(const QString& path)
+{
+    const QFileInfo info(path);
+    if (info.isDir()) {
+        _refusal = QStringLiteral("it is a folder");
+        return false;
+    }
+    // Opening a pipe or a device could wait for ever.
+    if (info.exists() && !info.isFile()) {
+        _refusal = QStringLiteral("it is not a regular file");
+        return false;
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        _refusal = file.errorString();
+        return false;
+    }
+    if (file.size() > largestFile) {
+        _refusal = QStringLiteral("not a raw dump: %1 bytes, a dump has no more than %2")
+                       .arg(grouped(file.size()), grouped(largestFile));
+        return false;
+    }
+    _data = file.read(largestFile);
+    if (file.error() != QFileDevice::NoError) {
+        _refusal = file.errorString();
+        _data.clear();
+        return false;
+    }
+    return true;
+}
+
+bool OdoData::parseData()
+{
+    if (_data.size() < dumpSize) {
+        qCWarning(lcDecode, "[parseData] wrong Datasize");
+        if (_refusal.isEmpty())
+            _refusal = QStringLiteral("not a raw dump: %1 bytes, at least %2 are needed")
+                           .arg(grouped(_data.size()), grouped(dumpSize));
+        return false;
+    }
+    if (!checkForValidSignature()) {
+        _refusal =
+            QStringLiteral("not a raw dump: it does not begin with \"%1\"").arg(QLatin1String(signature));
+        return false;
+    }
+    parseGeneralData();
+    qCDebug(lcDecode, "General Data: %s", qUtf8Printable(textForm(_generalDataDict)));
+
+    _scan = {};
+    _bufPos = recordAreaOffset;
+    scanRecords();
+    finishWrappedTour();
+    qCDebug(lcDecode, "localCounter %d, arrayCounter: %zu", _scan.localCounter, _toursArray.size());
+    _scan = {};
+
+    // Odd characters among tours are the device's business; a record area without a tour that is not even
+    // hexadecimal is some other file, which must not pass for an empty memory.
+    if (_toursArray.empty()) {
+        if (const auto foreign = firstForeignCharacter())
+            _refusal = QStringLiteral("not a raw dump: no tours, and byte %1 is not a hexadecimal digit")
+                           .arg(grouped(*foreign));
+    }
+    return true;
+}
+
+bool OdoData::checkForValidSignature() const
+{
+    return _data.startsWith(signature);
+}
+
+void OdoData::parseGeneralData()
+{
+    qCDebug(lcDecode, "parseGeneralData");
+    for (const auto& field : generalDataFields) {
+        switch (field.kind) {
+        case FieldKind::hexWord:
+            addNSNumberUsingInt(hexWord(field.offset), field.name);
+            break;
+        case FieldKind::address:
+            addNSNumberUsingInt(offsetOfAddress(hexWord(field.offset)), field.name);
+            break;
+        case FieldKind::decimalPair:
+            addNSNumberUsingInt(decimalPair(field.offset), field.name);
+            break;
+        case FieldKind::decimalQuad:
+            addNSNumberUsingInt(decimalQuad(field.offset), field.name);
+            break;
+        }
+    }
+}
+
+void OdoData::addNSNumberUsingInt(std::int32_t number, QStringView withName)
+{
+    _generalDataDict.insert(withName.toString(), number);
+}
+
+std::int16_t OdoData::HexToInt2(char p1, char p2)
+{
+    return static_cast<std::int16_t>(16 * hexDigit(p1) + hexDigit(p2));
+}
+
+std::int16_t OdoData::HexToInt(char p1, char p2, char p3, char p4)
+{
+    return static_cast<std::int16_t>(((hexDigit(p1) * 16 + hexDigit(p2)) * 16 + hexDigit(p3)) * 16 +
+                                     hexDigit(p4));
+}
+
+std::int16_t OdoData::DecToInt2(char p1, char p2)
+{
+    return static_cast<std::int16_t>(10 * decimalDigit(p1) + decimalDigit(p2));
+}
+
+std::int16_t OdoData::DecToInt(char p1, char p2, char p3, char p4)
+{
+    return static_cast<std::int16_t>(1000 * decimalDigit(p1) + 100 * decimalDigit(p2) +
+                                     10 * decimalDigit(p3) + decimalDigit(p4));
+}
+
+std::int16_t OdoData::hexByte(std::uint32_t offset) const
+{
+    const auto* at = _data.constData() + offset;
+    return HexToInt2(at[0], at[1]);
+}
+
+std::int16_t OdoData::hexWord(std::uint32_t offset) const
+{
+    const auto* at = _data.constData() + offset;
+    return HexToInt(at[0], at[1], at[2], at[3]);
+}
+
+std::int16_t OdoData::decimalPair(std::uint32_t offset) const
+{
+    const auto* at = _data.constData() + offset;
+    return DecToInt2(at[0], at[1]);
+}
+
+std::int16_t OdoData::decimalQuad(std::uint32_t offset) const
+{
+    const auto* at = _data.constData() + offset;
+    return DecToInt(at[0], at[1], at[2], at[3]);
+}
+
+bool OdoData::typeCodeIs(const char (&code)[3], std::uint32_t offset) const
+{
+    const auto* at = _data.constData() + offset;
+    return at[0] == code[0] && at[1] == code[1];
+}
+
+std::optional<std::uint32_t> OdoData::firstForeignCharacter() const
+{
+    for (auto offset = recordAreaOffset; offset < dumpSize; ++offset) {
+        const auto character = _data[offset];
+        const bool digit = (character >= '0' && character <= '9') || (character >= 'A' && character <= 'F');
+        const bool separator = offset % groupSize == groupSize - 1;
+        if (!digit && !separator)
+            return offset;
+    }
+    return std::nullopt;
+}
+
+} // namespace ridelog

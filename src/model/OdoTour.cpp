@@ -1,0 +1,163 @@
+#include "model/OdoTour.h"
+
+#include "model/TourLog.h"
+
+#include <QTimeZone>
+
+#include <utility>
+
+namespace ridelog {
+
+Q_LOGGING_CATEGORY(lcTour, "ridelog.tour")
+
+namespace {
+
+const QString untitled = QStringLiteral("n/a");
+
+} // namespace
+
+std::shared_ptr<OdoTour> OdoTour::initWithOdoDataTourDict(std::optional<TourDictionary> tourDict,
+                                                          const QDateTime& now)
+{
+    const std::shared_ptr<OdoTour> tour(new OdoTour);
+    tour->_tourDataDict = std::move(tourDict);
+    tour->setTitle(untitled);
+    tour->setTourDescription(untitled);
+    tour->setRemoved(false);
+    tour->calculateAllValues(now);
+    return tour;
+}
+
+bool OdoTour::isSameTour(const OdoTour& other) const
+{
+    return _date == other._date && totalDistance() == other.totalDistance();
+}
+
+bool OdoTour::isEqual(const OdoTour* other) const
+{
+    return other == this || (other && isSameTour(*other));
+}
+
+std::size_t OdoTour::hash() const
+{
+    return qHash(_date);
+}
+
+QString OdoTour::description() const
+{
+    return CalendarDate::text(_date);
+}
+
+void OdoTour::setDate(const QDateTime& date)
+{
+    _date = date;
+}
+
+void OdoTour::calculateDate(const QDateTime& now)
+{
+    if (_date.isValid())
+        return;
+    static const TourDictionary none;
+    const auto& dict = _tourDataDict ? *_tourDataDict : none;
+    const auto dateInYear = [&](int year) {
+        return CalendarDate::fromFields(year, dict.month.value_or(0), dict.day.value_or(0),
+                                        dict.hour.value_or(0), dict.min.value_or(0), 0, now.timeZone());
+    };
+    const auto year = now.date().year();
+    const auto thisYear = dateInYear(year);
+    setDate(thisYear > now ? dateInYear(year - 1) : thisYear);
+}
+
+const QDateTime& OdoTour::endDate() const
+{
+    if (!_endDate.isValid())
+        _endDate = _date.addSecs(static_cast<qint64>(_data.size()) * sampleInterval);
+    return _endDate;
+}
+
+double OdoTour::duration() const
+{
+    return static_cast<double>(_data.size()) * sampleInterval;
+}
+
+int OdoTour::hours() const
+{
+    return static_cast<int>(duration() / 3600);
+}
+
+int OdoTour::minutes() const
+{
+    const auto seconds = static_cast<int>(duration() - hours() * 3600.0);
+    return static_cast<int>(static_cast<float>(seconds) / 60.0F);
+}
+
+void OdoTour::setTitle(const QString& title)
+{
+    _title = title;
+}
+
+const StyledText& OdoTour::tourDescription() const
+{
+    qCDebug(lcTour, "[tourDescription]");
+    return _description;
+}
+
+void OdoTour::setTourDescription(const StyledText& description)
+{
+    qCDebug(lcTour, "[setTourDescription]");
+    _description = description;
+}
+
+void OdoTour::setTourDescription(const QString& plainText)
+{
+    setTourDescription(StyledText(plainText));
+}
+
+void OdoTour::setRemoved(bool removed)
+{
+    qCDebug(lcTour, "[setRemoved(%d)]", removed);
+    _removed = removed;
+}
+
+void OdoTour::setTourDataDict(std::optional<TourDictionary> tourDict)
+{
+    _tourDataDict = std::move(tourDict);
+}
+
+std::span<const DataRect> OdoTour::tourData() const
+{
+    const auto samples =
+        _tourDataDict ? std::span<const DataRect>(_tourDataDict->tourData) : std::span<const DataRect>();
+    qCDebug(lcTour, "tourData %zu", samples.size());
+    return samples;
+}
+
+void OdoTour::appendTourData(std::span<const DataRect> samples)
+{
+    if (!_tourDataDict)
+        _tourDataDict.emplace();
+    auto& held = _tourDataDict->tourData;
+    held.insert(held.end(), samples.begin(), samples.end());
+}
+
+std::optional<QString> OdoTour::type() const
+{
+    return _tourDataDict ? _tourDataDict->type : std::nullopt;
+}
+
+std::optional<std::int32_t> OdoTour::distanceAtStart() const
+{
+    return _tourDataDict ? _tourDataDict->distanceAtStart : std::nullopt;
+}
+
+std::optional<std::int32_t> OdoTour::altitudeAtStart() const
+{
+    return _tourDataDict ? _tourDataDict->altitudeAtStart : std::nullopt;
+}
+
+std::optional<std::int32_t> OdoTour::pulseAtStart() const
+{
+    return _tourDataDict ? _tourDataDict->pulseAtStart : std::nullopt;
+}
+
+} // namespace ridelog

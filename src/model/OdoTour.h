@@ -1,0 +1,156 @@
+#pragma once
+
+#include "model/CalculatedValues.h"
+#include "model/SeriesEntry.h"
+#include "model/TourDictionary.h"
+#include "platform/CalendarDate.h"
+#include "platform/StyledText.h"
+
+#include <QDateTime>
+#include <QString>
+
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace ridelog {
+
+/// One recorded tour: what the device recorded, kept unchanged, and what the rider adds to it. The series and
+/// the first summary values are computed when the tour is made, the other summary values on first request.
+/// Tours are shared by the document, its windows and its undo steps; all of them live on the main thread.
+class OdoTour {
+public:
+    OdoTour(const OdoTour&) = delete;
+    OdoTour& operator=(const OdoTour&) = delete;
+
+    /// A tour as the decoder hands it over, titled "n/a". Without a dictionary it has one entry of zeros.
+    /// The device records no year: `now`, with its time zone, decides which one (see calculateDate).
+    static std::shared_ptr<OdoTour> initWithOdoDataTourDict(std::optional<TourDictionary> tourDict,
+                                                            const QDateTime& now = CalendarDate::now());
+
+    // Identity
+
+    /// Same start instant and same total distance; title, description and samples play no part.
+    bool isSameTour(const OdoTour& other) const;
+    bool isEqual(const OdoTour* other) const;
+    std::size_t hash() const;
+    /// The text form of the start date, the same in every run.
+    QString description() const;
+
+    // Dates and durations
+
+    const QDateTime& date() const { return _date; }
+    void setDate(const QDateTime& date);
+    /// Start date plus 20 s for every series entry; the first answer stays, whatever the start becomes later.
+    const QDateTime& endDate() const;
+    /// Seconds: 20 for every series entry, the start entry included.
+    double duration() const;
+    int hours() const;   ///< whole hours of the duration
+    int minutes() const; ///< whole minutes beyond the hours
+
+    // What the rider edits
+
+    const QString& title() const { return _title; }
+    void setTitle(const QString& title);
+    const StyledText& tourDescription() const;
+    void setTourDescription(const StyledText& description);
+    void setTourDescription(const QString& plainText);
+    bool removed() const { return _removed; }
+    void setRemoved(bool removed);
+
+    // What the device recorded
+
+    const std::optional<TourDictionary>& tourDataDict() const { return _tourDataDict; }
+    void setTourDataDict(std::optional<TourDictionary> tourDict);
+    std::span<const DataRect> tourData() const;
+    /// Adds samples behind those held. They enter the series when the tour is next made from its stored form.
+    void appendTourData(std::span<const DataRect> samples);
+    bool dataIsBigEndian() const { return _dataIsBigEndian; }
+    void setDataIsBigEndian(bool bigEndian) { _dataIsBigEndian = bigEndian; }
+
+    std::optional<QString> type() const;
+    std::optional<std::int32_t> distanceAtStart() const;                 ///< kilometres
+    std::optional<std::int32_t> altitudeAtStart() const;                 ///< metres
+    std::optional<std::int32_t> pulseAtStart() const;                    ///< beats per minute
+    std::int32_t altitudeAtEnd() const { return _data.back().altitude; } ///< metres
+    /// Ignored; there so that the value can be shown in an editable field.
+    void setAltitudeAtEnd(std::int32_t) {}
+
+    // Series
+
+    /// The start entry, then one entry per sample: never empty.
+    const std::vector<SeriesEntry>& data() const { return _data; }
+
+    /// Power in watts that moves rider and bicycle over `distanceDiff` metres of road with a rise of
+    /// `altitudeDiff` metres in `timeDiff` seconds, at `altitude` metres above the sea, `temperature` °C and
+    /// `cad` revolutions per minute. Weight, rolling and air resistance; 0 downhill and at rest.
+    static int calcPowerFrom(int altitude, int temperature, int cad, double timeDiff, double distanceDiff,
+                             double altitudeDiff);
+
+    /// Grade in per cent of a rise y over a run x; 0 over no run.
+    static float calcClimbingPercentage(float deltaX, float deltaY);
+
+    // Summary values. Units stand with CalculatedValues; an average over nothing is 0.
+
+    float totalDistance() const { return _data.back().distance; } ///< kilometres
+    float maxPower() const;                                       ///< watts
+    double avgPower() const; ///< watts, mean over all entries, the start entry included
+
+    float avgPulse() const { return _calculatedValues.averagePulse.value_or(0); }
+    float avgSpeed() const { return _calculatedValues.averageSpeed.value_or(0); }
+    float avgMovingSpeed() const { return _calculatedValues.averageMovingSpeed.value_or(0); }
+    float maxPulse() const { return _calculatedValues.maxPulse.value_or(0); }
+    float maxSpeed() const { return _calculatedValues.maxSpeed.value_or(0); }
+    /// None for a tour without a dictionary.
+    std::optional<float> avgTemperature() const { return _calculatedValues.averageTemp; }
+    std::optional<float> maxTemperature() const { return _calculatedValues.maxTemp; }
+    std::optional<float> minTemperature() const { return _calculatedValues.minTemp; }
+
+    std::int32_t elevationGain() const;
+    std::int32_t climbingCount() const;
+    std::int32_t descendingCount() const;
+    float maxClimbingDistance() const;
+    float avgClimbingDistance() const;
+    float maxDescendingDistance() const;
+    float maxClimbingAngle() const;
+    float maxDecendingAngle() const;
+    float maxClimbingPercentage() const;
+    float avgClimbingPercentage() const;
+    float maxDecendingPercentage() const;
+    float avgDecendingPercentage() const;
+
+    /// All summary values, those not asked for yet computed now.
+    const CalculatedValues& calculatedValues() const;
+
+private:
+    OdoTour() = default;
+
+    /// Builds the series and the first eight summary values in one pass over the samples.
+    void calculateAllValues(const QDateTime& now);
+    void calculateValuesOfEmptyTour(const QDateTime& now);
+    /// Gives a tour without a date the last occurrence, not after `now`, of its month, day and time of day,
+    /// in the time zone of `now`.
+    void calculateDate(const QDateTime& now);
+
+    std::optional<TourDictionary> _tourDataDict;
+    QString _title;
+    StyledText _description;
+    QDateTime _date;
+    bool _removed = false;
+    bool _dataIsBigEndian = false;
+    std::vector<SeriesEntry> _data;
+    mutable CalculatedValues _calculatedValues;
+    mutable QDateTime _endDate;
+};
+
+inline bool operator==(const OdoTour& left, const OdoTour& right)
+{
+    return left.isEqual(&right);
+}
+
+inline std::size_t qHash(const OdoTour& tour, std::size_t seed = 0)
+{
+    return tour.hash() ^ seed;
+}
+
+} // namespace ridelog
