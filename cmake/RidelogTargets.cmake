@@ -5,7 +5,9 @@ target_compile_features(ridelog_flags INTERFACE cxx_std_20)
 target_compile_options(ridelog_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
   # Results have to be the same to the last digit everywhere: no fused multiply-add behind our back.
-  -ffp-contract=off)
+  -ffp-contract=off
+  # Everything is linked statically: no function of ours is ever replaced by another library's.
+  -fno-semantic-interposition -fvisibility=hidden)
 target_compile_definitions(ridelog_flags INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
 if(RIDELOG_SANITIZE)
   target_compile_options(ridelog_flags INTERFACE

@@ -6,7 +6,6 @@
 #include <QFileInfo>
 #include <QLocale>
 
-#include <array>
 #include <utility>
 
 namespace ridelog {
@@ -31,30 +30,6 @@ QString textForm(const GeneralData& generalData)
         text += QStringLiteral("    \"%1\" = %2;\n").arg(name).arg(generalData.value(name));
     }
     return QStringLiteral("{\n%1}").arg(text);
-}
-
-/// What a character counts in a hex field: any character has a value, whether it is a digit or not. Codes are
-/// compared unsigned; the value is a signed byte.
-constexpr std::int8_t hexDigitValue(unsigned char code)
-{
-    return static_cast<std::int8_t>(code <= '@' ? code - 48 : code - 55);
-}
-
-constexpr auto hexDigitValues = [] {
-    std::array<std::int8_t, 256> values{};
-    for (unsigned code = 0; code < values.size(); ++code)
-        values[code] = hexDigitValue(static_cast<unsigned char>(code));
-    return values;
-}();
-
-int hexDigit(char character)
-{
-    return hexDigitValues[static_cast<unsigned char>(character)];
-}
-
-int decimalDigit(char character)
-{
-    return static_cast<std::int8_t>(static_cast<unsigned char>(character) - 48);
 }
 
 } // namespace
@@ -171,58 +146,6 @@ void OdoData::parseGeneralData()
 void OdoData::addNSNumberUsingInt(std::int32_t number, QStringView withName)
 {
     _generalDataDict.insert(withName.toString(), number);
-}
-
-std::int16_t OdoData::HexToInt2(char p1, char p2)
-{
-    return static_cast<std::int16_t>(16 * hexDigit(p1) + hexDigit(p2));
-}
-
-std::int16_t OdoData::HexToInt(char p1, char p2, char p3, char p4)
-{
-    return static_cast<std::int16_t>(((hexDigit(p1) * 16 + hexDigit(p2)) * 16 + hexDigit(p3)) * 16 +
-                                     hexDigit(p4));
-}
-
-std::int16_t OdoData::DecToInt2(char p1, char p2)
-{
-    return static_cast<std::int16_t>(10 * decimalDigit(p1) + decimalDigit(p2));
-}
-
-std::int16_t OdoData::DecToInt(char p1, char p2, char p3, char p4)
-{
-    return static_cast<std::int16_t>(1000 * decimalDigit(p1) + 100 * decimalDigit(p2) +
-                                     10 * decimalDigit(p3) + decimalDigit(p4));
-}
-
-std::int16_t OdoData::hexByte(std::uint32_t offset) const
-{
-    const auto* at = _data.constData() + offset;
-    return HexToInt2(at[0], at[1]);
-}
-
-std::int16_t OdoData::hexWord(std::uint32_t offset) const
-{
-    const auto* at = _data.constData() + offset;
-    return HexToInt(at[0], at[1], at[2], at[3]);
-}
-
-std::int16_t OdoData::decimalPair(std::uint32_t offset) const
-{
-    const auto* at = _data.constData() + offset;
-    return DecToInt2(at[0], at[1]);
-}
-
-std::int16_t OdoData::decimalQuad(std::uint32_t offset) const
-{
-    const auto* at = _data.constData() + offset;
-    return DecToInt(at[0], at[1], at[2], at[3]);
-}
-
-bool OdoData::typeCodeIs(const char (&code)[3], std::uint32_t offset) const
-{
-    const auto* at = _data.constData() + offset;
-    return at[0] == code[0] && at[1] == code[1];
 }
 
 std::optional<std::uint32_t> OdoData::firstForeignCharacter() const

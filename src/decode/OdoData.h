@@ -1,5 +1,6 @@
 #pragma once
 
+#include "decode/DumpDigits.h"
 #include "decode/DumpLayout.h"
 #include "model/OdoTour.h"
 
@@ -38,10 +39,26 @@ public:
     // Digit conversions, most significant character first. A character that is no digit is not an error: it
     // counts by its code as the rules have it.
 
-    static std::int16_t HexToInt2(char p1, char p2);
-    static std::int16_t HexToInt(char p1, char p2, char p3, char p4);
-    static std::int16_t DecToInt2(char p1, char p2);
-    static std::int16_t DecToInt(char p1, char p2, char p3, char p4);
+    static constexpr std::int16_t HexToInt2(char p1, char p2)
+    {
+        using DumpDigits::hexAtPlace;
+        return static_cast<std::int16_t>(hexAtPlace(1, p1) + hexAtPlace(0, p2));
+    }
+    static constexpr std::int16_t HexToInt(char p1, char p2, char p3, char p4)
+    {
+        using DumpDigits::hexAtPlace;
+        return static_cast<std::int16_t>(hexAtPlace(3, p1) + hexAtPlace(2, p2) + hexAtPlace(1, p3) +
+                                         hexAtPlace(0, p4));
+    }
+    static constexpr std::int16_t DecToInt2(char p1, char p2)
+    {
+        using DumpDigits::decimalDigit;
+        return static_cast<std::int16_t>(10 * decimalDigit(p1) + decimalDigit(p2));
+    }
+    static constexpr std::int16_t DecToInt(char p1, char p2, char p3, char p4)
+    {
+        return static_cast<std::int16_t>(100 * DecToInt2(p1, p2) + DecToInt2(p3, p4));
+    }
 
     /// Sets pulse change, altitude change and distance of `rect` from a sample word.
     static void WordToDataRect(std::int16_t word, DataRect& rect);
@@ -53,9 +70,16 @@ private:
         bool flIntermediateTour = false;    ///< samples belong to the tour that the ring's end cut off
         bool flAlreadyIntermediate = false; ///< that tour's end was met
         int localCounter = 0;               ///< tour start records met
-        TourDictionary tour;                ///< start values of the current tour
-        std::vector<DataRect> samples;      ///< of the current tour
+        TourDictionary tour;                ///< the current tour
         std::vector<DataRect> intermediateSamples;
+    };
+
+    /// What all samples of a record have in common.
+    struct RecordHead {
+        std::int16_t temperature;
+        std::int16_t endMarker;
+        std::int16_t cadence;
+        std::uint8_t lastData;
     };
 
     OdoData(QByteArray data, QDateTime now);
@@ -71,18 +95,30 @@ private:
     void handleBBEntry();
     void handleCCEntry();
     void handleDDEntry();
-    void addRecord(const DataRect& record, std::vector<DataRect>& to);
-    std::vector<DataRect>& samplesInProgress();
+    void addRecords(std::uint32_t record, std::uint32_t count, RecordHead head);
+    std::uint32_t dataRecordsFrom(std::uint32_t record) const;
     void finishTour();
     void finishWrappedTour();
     std::optional<std::uint32_t> firstForeignCharacter() const;
 
     // Fields at an offset of the dump.
-    std::int16_t hexByte(std::uint32_t offset) const;
-    std::int16_t hexWord(std::uint32_t offset) const;
-    std::int16_t decimalPair(std::uint32_t offset) const;
-    std::int16_t decimalQuad(std::uint32_t offset) const;
-    bool typeCodeIs(const char (&code)[3], std::uint32_t offset) const;
+    const char* at(std::uint32_t offset) const { return _data.constData() + offset; }
+    std::int16_t hexByte(std::uint32_t offset) const { return HexToInt2(at(offset)[0], at(offset)[1]); }
+    std::int16_t hexWord(std::uint32_t offset) const
+    {
+        const auto* group = at(offset);
+        return HexToInt(group[0], group[1], group[2], group[3]);
+    }
+    std::int16_t decimalPair(std::uint32_t offset) const { return DecToInt2(at(offset)[0], at(offset)[1]); }
+    std::int16_t decimalQuad(std::uint32_t offset) const
+    {
+        const auto* group = at(offset);
+        return DecToInt(group[0], group[1], group[2], group[3]);
+    }
+    bool typeCodeIs(const char (&code)[3], std::uint32_t offset) const
+    {
+        return at(offset)[0] == code[0] && at(offset)[1] == code[1];
+    }
 
     QByteArray _data;
     QDateTime _now;

@@ -2,6 +2,8 @@
 #include "decode/OdoData.h"
 
 #include <algorithm>
+#include <array>
+#include <span>
 
 namespace ridelog {
 namespace {
@@ -15,22 +17,29 @@ constexpr std::uint32_t cadenceAt = 7;
 constexpr std::uint32_t firstSampleAt = 10;
 
 /// Altitude steps up to 16 m are recorded as they are, larger ones in steps of 7 m.
-constexpr std::int16_t altitudeChangeOfCode(int code)
+constexpr int altitudeChangeOfCode(int code)
 {
     if (code > 16)
-        return static_cast<std::int16_t>(7 * code - 96);
+        return 7 * code - 96;
     if (code < -16)
-        return static_cast<std::int16_t>(7 * code + 96);
-    return static_cast<std::int16_t>(code);
+        return 7 * code + 96;
+    return code;
 }
 
-/// `value` as a signed number of its lowest `bits` bits.
+/// `value`, of so many bits, as a signed number.
 constexpr int signedBits(unsigned value, unsigned bits)
 {
     const auto sign = 1U << (bits - 1);
-    const auto low = value & (2 * sign - 1);
-    return static_cast<int>(low ^ sign) - static_cast<int>(sign);
+    return static_cast<int>(value ^ sign) - static_cast<int>(sign);
 }
+
+/// The altitude change that each combination of a sample word's six altitude bits stands for.
+constexpr auto altitudeChanges = [] {
+    std::array<std::int16_t, 64> changes{};
+    for (unsigned bits = 0; bits < changes.size(); ++bits)
+        changes[bits] = static_cast<std::int16_t>(altitudeChangeOfCode(signedBits(bits, 6)));
+    return changes;
+}();
 
 } // namespace
 
@@ -38,7 +47,7 @@ void OdoData::WordToDataRect(std::int16_t word, DataRect& rect)
 {
     const auto bits = static_cast<std::uint16_t>(word);
     rect.pulseChange = static_cast<std::int16_t>(signedBits(bits >> 12U, 4) * 2);
-    rect.altitudeChange = altitudeChangeOfCode(signedBits(bits >> 6U, 6));
+    rect.altitudeChange = altitudeChanges[bits >> 6U & 0x3FU];
     rect.distance = static_cast<std::int32_t>(bits & 0x3FU) * 10;
 }
 
@@ -77,7 +86,6 @@ void OdoData::handleAAEntry()
         return;
     }
     _scan.flTourRunning = true;
-    _scan.samples.clear();
 
     const auto start = _bufPos - typeCodeAt;
     TourDictionary tour;
@@ -92,8 +100,9 @@ void OdoData::handleAAEntry()
     tour.distanceAtStart = hexWord(start + 20);
     tour.altitudeAtStart = hexWord(start + 30);
     tour.pulseAtStart = hexWord(start + 35);
-    _scan.tour = std::move(tour);
     _bufPos = start + recordSize;
+    tour.tourData.reserve(std::size_t{dataRecordsFrom(_bufPos) + 1} * samplesPerRecord);
+    _scan.tour = std::move(tour);
 }
 
 void OdoData::handleBBEntry()
@@ -107,14 +116,11 @@ void OdoData::handleBBEntry()
         }
     }
     const auto start = _bufPos - typeCodeAt;
-    DataRect sample{.temperature = hexByte(start),
-                    .endMarker = hexByte(start + secondFieldAt),
-                    .cadence = hexByte(start + cadenceAt)};
-    auto& samples = samplesInProgress();
-    for (std::uint32_t slot = 0; slot < samplesPerRecord; ++slot) {
-        WordToDataRect(hexWord(start + firstSampleAt + slot * groupSize), sample);
-        addRecord(sample, samples);
-    }
+    const RecordHead head{.temperature = hexByte(start),
+                          .endMarker = hexByte(start + secondFieldAt),
+                          .cadence = hexByte(start + cadenceAt),
+                          .lastData = 0};
+    addRecords(start, samplesPerRecord, head);
     _bufPos = start + recordSize;
 }
 
@@ -126,19 +132,14 @@ void OdoData::handleCCEntry()
         return;
     }
     const auto start = _bufPos - typeCodeAt;
-    DataRect sample{.temperature = hexByte(start),
-                    .endMarker = hexByte(start + secondFieldAt),
-                    .cadence = hexByte(start + cadenceAt),
-                    .lastData = 1};
-    qCDebug(lcDecode, "Marker when tour exactly ended %d", sample.endMarker);
-    const auto recordsToStore = sample.endMarker / sampleInterval + 1;
+    const RecordHead head{.temperature = hexByte(start),
+                          .endMarker = hexByte(start + secondFieldAt),
+                          .cadence = hexByte(start + cadenceAt),
+                          .lastData = 1};
+    qCDebug(lcDecode, "Marker when tour exactly ended %d", head.endMarker);
+    const auto recordsToStore = head.endMarker / sampleInterval + 1;
     qCDebug(lcDecode, "recordsToStore %d", recordsToStore);
-    auto& samples = samplesInProgress();
-    const auto stored = static_cast<std::uint32_t>(std::clamp(recordsToStore, 0, samplesPerRecord));
-    for (std::uint32_t slot = 0; slot < stored; ++slot) {
-        WordToDataRect(hexWord(start + firstSampleAt + slot * groupSize), sample);
-        addRecord(sample, samples);
-    }
+    addRecords(start, static_cast<std::uint32_t>(std::clamp(recordsToStore, 0, samplesPerRecord)), head);
     _bufPos = start + recordSize;
 }
 
@@ -148,7 +149,7 @@ void OdoData::handleDDEntry()
     const auto start = _bufPos - typeCodeAt;
     qCDebug(lcDecode, "pos %u AA record offset %f", start + 5, realOffsetOfAddress(hexWord(start + 5)));
     if (_scan.flTourRunning && !_scan.flIntermediateTour) {
-        qCDebug(lcDecode, "---- COUNT %zu", _scan.samples.size());
+        qCDebug(lcDecode, "---- COUNT %zu", _scan.tour.tourData.size());
         finishTour();
         const auto& dict = *_toursArray.back()->tourDataDict();
         qCDebug(lcDecode, "count %zu day %d month %d", _toursArray.size(), *dict.day, *dict.month);
@@ -160,26 +161,43 @@ void OdoData::handleDDEntry()
     _bufPos = start + recordSize;
 }
 
-void OdoData::addRecord(const DataRect& record, std::vector<DataRect>& to)
+void OdoData::addRecords(std::uint32_t record, std::uint32_t count, RecordHead head)
 {
     // Only the first stretch of samples without a start is the tail of a tour; a later one is what is left of
     // an older tour, overwritten from its beginning.
     if (_scan.flAlreadyIntermediate && _scan.flIntermediateTour)
         return;
-    to.push_back(record);
+    auto& samples = _scan.flIntermediateTour ? _scan.intermediateSamples : _scan.tour.tourData;
+    const auto held = samples.size();
+    samples.resize(held + count);
+    const auto* word = at(record + firstSampleAt);
+    for (auto& sample : std::span(samples).subspan(held)) {
+        sample.temperature = head.temperature;
+        sample.endMarker = head.endMarker;
+        sample.cadence = head.cadence;
+        sample.lastData = head.lastData;
+        WordToDataRect(HexToInt(word[0], word[1], word[2], word[3]), sample);
+        word += groupSize;
+    }
 }
 
-std::vector<DataRect>& OdoData::samplesInProgress()
+std::uint32_t OdoData::dataRecordsFrom(std::uint32_t record) const
 {
-    return _scan.flIntermediateTour ? _scan.intermediateSamples : _scan.samples;
+    std::uint32_t count = 0;
+    for (; record + recordSize <= static_cast<std::uint64_t>(_data.size()); record += recordSize) {
+        if (!typeCodeIs("BB", record + typeCodeAt))
+            break;
+        ++count;
+    }
+    return count;
 }
 
 void OdoData::finishTour()
 {
-    _scan.tour.tourData.assign(_scan.samples.begin(), _scan.samples.end());
     const auto tour = OdoTour::initWithOdoDataTourDict(std::move(_scan.tour), _now);
     tour->setDataIsBigEndian(false);
     _toursArray.push_back(tour);
+    _scan.tour = {};
 }
 
 void OdoData::finishWrappedTour()

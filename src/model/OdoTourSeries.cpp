@@ -13,51 +13,81 @@ std::int32_t sumWrapping(std::int32_t left, std::int32_t right)
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(left) + static_cast<std::uint32_t>(right));
 }
 
-/// Power over one sample. Air and rider are taken as on a day at 20 °C, 200 m up, pedalling at 60 a minute.
-int modelledPower(std::int32_t distance, std::int32_t altitudeChange)
+/// What follows from a sample's distance alone.
+struct Road {
+    float kilometres;
+    float speed; ///< km/h
+};
+
+Road roadOf(std::int32_t distance)
 {
-    return OdoTour::calcPowerFrom(200, 20, 60, sampleInterval, distance, altitudeChange);
+    return {.kilometres = static_cast<float>(distance) / 1000.0F,
+            .speed = static_cast<float>(distance / 1000.0 * 180.0)};
 }
 
-/// The modelled power for all samples that a device can record: distances are multiples of 10 below 640 m,
-/// altitude changes lie between −128 and 121 m. The trigonometry is done once per pair, not once per sample.
-class PowerTable {
+/// What follows from a sample's distance and altitude change.
+struct Slope {
+    float grade; ///< per cent
+    int power;   ///< watts
+};
+
+/// Air and rider are taken as on a day at 20 °C, 200 m up, pedalling at 60 a minute.
+Slope slopeOf(std::int32_t distance, std::int32_t altitudeChange)
+{
+    return {.grade = OdoTour::calcClimbingPercentage(static_cast<float>(distance),
+                                                     static_cast<float>(altitudeChange)),
+            .power = OdoTour::calcPowerFrom(200, 20, 60, sampleInterval, distance, altitudeChange)};
+}
+
+/// Roads and slopes of all samples that a device can record: distances are multiples of 10 below 640 m,
+/// altitude changes lie between −128 and 121 m. Divisions and trigonometry are done once per pair, not once
+/// per sample.
+class SampleTable {
 public:
-    PowerTable()
+    SampleTable()
     {
-        for (int row = 0; row < altitudes; ++row) {
-            for (int column = 0; column < distances; ++column)
-                _watts[index(row, column)] = modelledPower(column * distanceStep, row + lowestChange);
+        for (unsigned column = 0; column < distances; ++column) {
+            const auto distance = static_cast<int>(column * distanceStep);
+            _roads[column] = roadOf(distance);
+            for (unsigned row = 0; row < altitudes; ++row)
+                _slopes[row * distances + column] = slopeOf(distance, static_cast<int>(row) + lowestChange);
         }
     }
 
-    int power(std::int32_t distance, std::int32_t altitudeChange) const
+    Road road(std::int32_t distance) const
     {
-        const auto row = static_cast<std::uint32_t>(altitudeChange - lowestChange);
-        const auto column = static_cast<std::uint32_t>(distance) / distanceStep;
-        if (row < altitudes && column < distances &&
-            distance == static_cast<std::int32_t>(column) * distanceStep)
-            return _watts[index(static_cast<int>(row), static_cast<int>(column))];
-        return modelledPower(distance, altitudeChange);
+        const auto column = columnOf(distance);
+        return column < distances ? _roads[column] : roadOf(distance);
+    }
+
+    Slope slope(std::int32_t distance, std::int32_t altitudeChange) const
+    {
+        const auto column = columnOf(distance);
+        const auto row = static_cast<unsigned>(altitudeChange - lowestChange);
+        return column < distances && row < altitudes ? _slopes[row * distances + column]
+                                                     : slopeOf(distance, altitudeChange);
     }
 
 private:
-    static constexpr int distanceStep = 10;
-    static constexpr int distances = 64;
+    static constexpr unsigned distanceStep = 10;
+    static constexpr unsigned distances = 64;
     static constexpr int lowestChange = -128;
-    static constexpr int altitudes = 250;
+    static constexpr unsigned altitudes = 250;
 
-    static std::size_t index(int row, int column)
+    /// The place of a distance in the table; beyond its end for one that no device records.
+    static unsigned columnOf(std::int32_t distance)
     {
-        return static_cast<std::size_t>(row * distances + column);
+        const auto column = static_cast<unsigned>(distance) / distanceStep;
+        return column * distanceStep == static_cast<unsigned>(distance) ? column : distances;
     }
 
-    std::array<std::int32_t, static_cast<std::size_t>(altitudes) * distances> _watts{};
+    std::array<Road, distances> _roads{};
+    std::array<Slope, std::size_t{altitudes} * distances> _slopes{};
 };
 
-const PowerTable& powerTable()
+const SampleTable& sampleTable()
 {
-    static const PowerTable table;
+    static const SampleTable table;
     return table;
 }
 
@@ -88,7 +118,7 @@ void OdoTour::calculateAllValues(const QDateTime& now)
         return;
     }
 
-    const auto& table = powerTable();
+    const auto& table = sampleTable();
     const auto& samples = _tourDataDict->tourData;
     const auto first = samples.empty() ? DataRect{} : samples.front();
     std::int32_t altitude = _tourDataDict->altitudeAtStart.value_or(0);
@@ -105,39 +135,38 @@ void OdoTour::calculateAllValues(const QDateTime& now)
     std::int32_t maxTemp = -9999;
     std::int32_t minTemp = 9999;
 
-    _data.clear();
-    _data.reserve(samples.size() + 1);
-    _data.push_back(
-        {.altitude = altitude, .pulse = pulse, .temperature = first.temperature, .cadence = first.cadence});
-
+    _data.assign(samples.size() + 1, SeriesEntry{});
+    _data.front() = {
+        .altitude = altitude, .pulse = pulse, .temperature = first.temperature, .cadence = first.cadence};
+    auto* entry = _data.data();
     for (const auto& sample : samples) {
-        const auto metres = static_cast<float>(sample.distance);
-        const auto speed = static_cast<float>(sample.distance / 1000.0 * 180.0);
+        const auto road = table.road(sample.distance);
+        const auto slope = table.slope(sample.distance, sample.altitudeChange);
         altitude = sumWrapping(altitude, sample.altitudeChange);
         pulse = sumWrapping(pulse, sample.pulseChange);
-        distance += metres / 1000.0F;
+        distance += road.kilometres;
         time += sampleInterval;
 
         pulseSum += pulse;
         temperatureSum += sample.temperature;
         if (sample.distance > 0) {
-            movingSpeedSum += speed;
+            movingSpeedSum += road.speed;
             ++movingSamples;
         }
         maxPulse = std::max(maxPulse, pulse);
-        maxSpeed = std::max(maxSpeed, speed);
+        maxSpeed = std::max(maxSpeed, road.speed);
         maxTemp = std::max<std::int32_t>(maxTemp, sample.temperature);
         minTemp = std::min<std::int32_t>(minTemp, sample.temperature);
 
-        _data.push_back({.time = static_cast<std::int32_t>(time),
-                         .altitude = altitude,
-                         .distance = distance,
-                         .pulse = pulse,
-                         .power = table.power(sample.distance, sample.altitudeChange),
-                         .speed = speed,
-                         .climbingPercentage = calcClimbingPercentage(metres, sample.altitudeChange),
-                         .temperature = sample.temperature,
-                         .cadence = sample.cadence});
+        *++entry = {.time = static_cast<std::int32_t>(time),
+                    .altitude = altitude,
+                    .distance = distance,
+                    .pulse = pulse,
+                    .power = slope.power,
+                    .speed = road.speed,
+                    .climbingPercentage = slope.grade,
+                    .temperature = sample.temperature,
+                    .cadence = sample.cadence};
     }
 
     calculateDate(now);

@@ -31,7 +31,7 @@ struct DumpTour {
     std::int16_t distanceAtStart = 0; ///< kilometres on the device's counter
     std::int16_t altitudeAtStart = 0; ///< metres
     std::int16_t pulseAtStart = 0;    ///< beats per minute
-    std::vector<DumpSample> samples;
+    std::vector<DumpSample> samples = {};
     int secondsOfLastSample = 0; ///< 0 to 19: when, within the last sample, the tour was stopped
 };
 
