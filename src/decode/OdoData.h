@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace ridelog {
@@ -31,7 +32,8 @@ public:
     const QByteArray& data() const { return _data; }
     const GeneralData& generalDataDict() const { return _generalDataDict; }
     /// In the order in which the tours' ends stand in memory, a tour stitched across the ring's end last.
-    const std::vector<std::shared_ptr<OdoTour>>& toursArray() const { return _toursArray; }
+    const std::vector<std::shared_ptr<OdoTour>>& toursArray() const& { return _toursArray; }
+    std::vector<std::shared_ptr<OdoTour>> toursArray() && { return std::move(_toursArray); }
 
     /// Why the bytes are not a raw dump, in words for people; empty if they are one.
     const QString& refusal() const { return _refusal; }

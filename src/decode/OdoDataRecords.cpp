@@ -1,8 +1,8 @@
 #include "decode/DecodeLog.h"
 #include "decode/OdoData.h"
+#include "decode/SampleWord.h"
 
 #include <algorithm>
-#include <array>
 #include <span>
 
 namespace ridelog {
@@ -16,39 +16,14 @@ constexpr std::uint32_t secondFieldAt = 5;
 constexpr std::uint32_t cadenceAt = 7;
 constexpr std::uint32_t firstSampleAt = 10;
 
-/// Altitude steps up to 16 m are recorded as they are, larger ones in steps of 7 m.
-constexpr int altitudeChangeOfCode(int code)
-{
-    if (code > 16)
-        return 7 * code - 96;
-    if (code < -16)
-        return 7 * code + 96;
-    return code;
-}
-
-/// `value`, of so many bits, as a signed number.
-constexpr int signedBits(unsigned value, unsigned bits)
-{
-    const auto sign = 1U << (bits - 1);
-    return static_cast<int>(value ^ sign) - static_cast<int>(sign);
-}
-
-/// The altitude change that each combination of a sample word's six altitude bits stands for.
-constexpr auto altitudeChanges = [] {
-    std::array<std::int16_t, 64> changes{};
-    for (unsigned bits = 0; bits < changes.size(); ++bits)
-        changes[bits] = static_cast<std::int16_t>(altitudeChangeOfCode(signedBits(bits, 6)));
-    return changes;
-}();
-
 } // namespace
 
 void OdoData::WordToDataRect(std::int16_t word, DataRect& rect)
 {
     const auto bits = static_cast<std::uint16_t>(word);
-    rect.pulseChange = static_cast<std::int16_t>(signedBits(bits >> 12U, 4) * 2);
-    rect.altitudeChange = altitudeChanges[bits >> 6U & 0x3FU];
-    rect.distance = static_cast<std::int32_t>(bits & 0x3FU) * 10;
+    rect.pulseChange = SampleWord::pulseChange(bits);
+    rect.altitudeChange = SampleWord::altitudeChange(bits);
+    rect.distance = SampleWord::distance(bits);
 }
 
 void OdoData::scanRecords()

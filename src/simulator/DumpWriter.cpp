@@ -1,6 +1,7 @@
 #include "simulator/DumpWriter.h"
 
-#include "decode/OdoData.h"
+#include "decode/SampleWord.h"
+#include "model/DataRect.h"
 
 #include <algorithm>
 #include <cmath>
@@ -45,38 +46,18 @@ QByteArray hexText(std::uint16_t value)
     return QByteArray::number(value, 16).toUpper().rightJustified(4, '0');
 }
 
-/// For each of the device's altitude steps, the bits that stand for it, in rising order of the step. The
-/// decoder itself says what bits mean.
-struct AltitudeStep {
-    int change;
-    std::uint16_t bits;
-};
-
-std::array<AltitudeStep, 64> altitudeSteps()
-{
-    std::array<AltitudeStep, 64> steps{};
-    for (unsigned code = 0; code < steps.size(); ++code) {
-        DataRect sample;
-        const auto bits = static_cast<std::uint16_t>(code << 6U);
-        OdoData::WordToDataRect(static_cast<std::int16_t>(bits), sample);
-        steps[code] = {sample.altitudeChange, bits};
-    }
-    std::ranges::sort(steps, {}, &AltitudeStep::change);
-    return steps;
-}
-
 std::uint16_t nearestAltitudeBits(double change)
 {
-    static const auto steps = altitudeSteps();
-    return std::ranges::min_element(steps, {},
-                                    [=](const auto& step) { return std::abs(step.change - change); })
-        ->bits;
+    const auto& changes = SampleWord::altitudeChanges;
+    const auto* nearest =
+        std::ranges::min_element(changes, {}, [=](auto step) { return std::abs(step - change); });
+    return static_cast<std::uint16_t>((nearest - changes.begin()) << SampleWord::altitudeShift);
 }
 
 std::uint16_t nearestPulseBits(double change)
 {
     const auto code = std::clamp(std::lround(change / 2), -8L, 7L);
-    return static_cast<std::uint16_t>((static_cast<unsigned long>(code) & 0xFU) << 12U);
+    return static_cast<std::uint16_t>((static_cast<unsigned long>(code) & 0xFU) << SampleWord::pulseShift);
 }
 
 std::uint16_t nearestDistanceBits(double metres)
@@ -97,11 +78,9 @@ public:
         const auto bits = static_cast<std::uint16_t>(nearestPulseBits(sample.pulse - _pulse) |
                                                      nearestAltitudeBits(sample.altitude - _altitude) |
                                                      nearestDistanceBits(sample.distance - _distance));
-        DataRect decoded;
-        OdoData::WordToDataRect(static_cast<std::int16_t>(bits), decoded);
-        _altitude += decoded.altitudeChange;
-        _pulse += decoded.pulseChange;
-        _distance += decoded.distance;
+        _pulse += SampleWord::pulseChange(bits);
+        _altitude += SampleWord::altitudeChange(bits);
+        _distance += SampleWord::distance(bits);
         return bits;
     }
 
