@@ -1,0 +1,55 @@
+# shellcheck shell=bash
+# Sourced by run and test: makes sure that what they need is installed.
+
+has() { command -v "$1" >/dev/null; }
+
+install_packages() {
+    local as_root=()
+    if ((EUID != 0)); then
+        # sudo may ask for a password only where somebody can answer.
+        has sudo && { [[ -t 0 ]] || sudo -n true 2>/dev/null; } || return
+        as_root=(sudo)
+    fi
+    echo "Installing $*"
+    local apt_get=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q)
+    # A package source that cannot be reached need not be the one that matters.
+    "${apt_get[@]}" update || true
+    "${apt_get[@]}" install -y --no-install-recommends "$@"
+}
+
+# prepare run|test: installs the packages that are missing, on Debian and its relatives.
+# Elsewhere nothing can be installed under these names, and configure says what is missing.
+prepare() {
+    has apt-get || return 0
+
+    local packages=(g++ cmake ninja-build qt6-base-dev tzdata)
+    if [[ $1 == test ]]; then
+        packages+=(libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev)
+    fi
+
+    local missing
+    mapfile -t missing < <(comm -13 \
+        <(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "${packages[@]}" 2>/dev/null |
+            sed -n 's/^installed //p' | sort -u) \
+        <(printf '%s\n' "${packages[@]}" | sort))
+    ((${#missing[@]})) || return 0
+
+    # Standard output belongs to the program that is started in the end.
+    install_packages "${missing[@]}" >&2 && return
+    echo "Packages are missing. As root, type:
+apt-get update && apt-get install --no-install-recommends ${missing[*]}" >&2
+    exit 1
+}
+
+# configure PRESET: quiet unless something is wrong.
+configure() {
+    cmake --preset "$1" >/dev/null && return
+    echo "ridelog is built with
+  CMake 3.25, Ninja, a compiler for C++20 (g++ 12 or clang 14)
+  Qt 6.4 with its headers (Core, Gui, Widgets, Network, PrintSupport, Test), time zone data
+and tested with
+  GoogleTest 1.12, Google Benchmark 1.7
+  clang 14 with its sanitizer libraries, clang-format 14, clang-tidy 14
+or newer." >&2
+    exit 1
+}
