@@ -11,7 +11,7 @@ install_packages() {
         as_root=(sudo)
     fi
     echo "Installing $*"
-    local apt_get=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q)
+    local apt_get=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq)
     # A package source that cannot be reached need not be the one that matters.
     "${apt_get[@]}" update || true
     "${apt_get[@]}" install -y --no-install-recommends "$@"
