@@ -98,7 +98,7 @@ Style styleFor(QRandomGenerator& random, int month)
         return {"91", 130, 0.6, 0.06, 10, 0, 500};
     if (winter && choice < 4)
         return {"B1", 160, 0.5, 0.12, 12, 55, 700};
-    if (choice < 5)
+    if (choice < (winter ? 5 : 2))
         return {"81", 30, 0.5, 0.03, 4, 82, 330};
     return {"A1", between(random, 130, 230), 0.25, between(random, 0.02, 0.11), 18, 84, 1500};
 }

@@ -150,6 +150,14 @@ TEST_F(CommandLine, RandomDumpsGiveValidJson)
     }
 }
 
+TEST_F(CommandLine, DemoDumpShowsWhatTheDeviceKnows)
+{
+    const auto demo = run(inspectAtYearsEnd, {QStringLiteral(RIDELOG_SOURCE "/resources/demo.odo")});
+    EXPECT_EQ(demo.status, 0) << demo.err.toStdString();
+    for (const char* type : {" Bike ", " Jogging ", " Ski ", " Ski-Bike "})
+        EXPECT_TRUE(demo.out.contains(type)) << type;
+}
+
 TEST_F(CommandLine, BadInputIsRefusedInOneLine)
 {
     const auto dump = RideGenerator().dump();
