@@ -10,10 +10,23 @@
 namespace ridelog {
 namespace {
 
-void complain(const QString& line)
+/// The text without anything that would end its line or move a terminal's cursor.
+QString printable(const QString& text)
 {
-    const auto bytes = QStringLiteral("ridelog-cli: %1\n").arg(line).toUtf8();
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);
+    QString line;
+    for (const auto character : text) {
+        if (character.category() == QChar::Other_Control)
+            line += QStringLiteral("\\x%1").arg(character.unicode(), 2, 16, QLatin1Char('0'));
+        else
+            line += character;
+    }
+    return line;
+}
+
+void complain(const QString& message)
+{
+    const auto line = QStringLiteral("ridelog-cli: %1\n").arg(printable(message)).toUtf8();
+    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
 }
 
 } // namespace

@@ -79,7 +79,9 @@ ExitStatus runCommand(const Command& command, const QStringList& words)
         parser.addPositionalArgument(argument.name, argument.description);
     parser.addOptions(command.options());
     parser.addOptions({logOption(), nowOption(), milesOption()});
-    const auto help = parser.addHelpOption();
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Shows this help."));
+    parser.addOption(help);
 
     const auto hint = QStringLiteral(" (see %1 %2 --help)").arg(programName, command.name());
     if (!parser.parse(words))
@@ -104,8 +106,10 @@ ExitStatus runCommand(const Command& command, const QStringList& words)
 
     const auto arguments = parser.positionalArguments().mid(1);
     const auto wanted = command.arguments();
-    if (arguments.size() < wanted.size())
-        return wrongWords(QStringLiteral("%1 is missing").arg(wanted[arguments.size()].name) + hint);
+    for (qsizetype i = 0; i < wanted.size(); ++i) {
+        if (arguments.value(i).isEmpty())
+            return wrongWords(QStringLiteral("%1 is missing").arg(wanted[i].name) + hint);
+    }
     if (arguments.size() > wanted.size())
         return wrongWords(QStringLiteral("'%1' is one word too many").arg(arguments[wanted.size()]) + hint);
 

@@ -1,9 +1,9 @@
 #include "cli/MakeDumpCommand.h"
 
+#include "platform/WholeFile.h"
 #include "simulator/RideGenerator.h"
 
 #include <QCommandLineParser>
-#include <QSaveFile>
 
 namespace ridelog {
 namespace {
@@ -60,11 +60,9 @@ ExitStatus MakeDumpCommand::execute(const CommandContext& context) const
     if (path.isEmpty())
         return wrongWords(QStringLiteral("-o is missing: the file to write"));
 
-    const auto dump = generator.dump();
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(dump) != dump.size() || !file.commit())
-        return fail(path, file.errorString());
-    return print(QStringLiteral("%1: %2 tours, %3 bytes\n").arg(path).arg(generator.tours).arg(dump.size()));
+    if (const auto error = writeWholeFile(path, generator.dump()))
+        return fail(path, *error);
+    return ExitStatus::done;
 }
 
 } // namespace ridelog

@@ -2,11 +2,44 @@
 #include "platform/Log.h"
 
 #include <QCoreApplication>
+#include <QStringDecoder>
+
+#include <fcntl.h>
+
+namespace {
+
+/// A standard stream that the caller has closed must not become the next file that is opened: its place is
+/// taken by something that neither side can use.
+void occupyClosedStreams()
+{
+    for (int stream = 0; stream <= 2; ++stream) {
+        if (fcntl(stream, F_GETFD) == -1)
+            open("/dev/null", stream == 0 ? O_WRONLY : O_RDONLY);
+    }
+}
+
+/// File names are texts here; one that is no UTF-8 would be taken for another.
+bool isUtf8(const char* word)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    const QString text = decoder(word);
+    return !decoder.hasError();
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
+    occupyClosedStreams();
     // Before the toolkit starts, so that it is as quiet as the application.
     ridelog::setLogLevel(ridelog::LogLevel::none);
     const QCoreApplication application(argc, argv);
+    for (int i = 1; i < argc; ++i) {
+        if (!isUtf8(argv[i])) {
+            const auto status =
+                ridelog::wrongWords(QStringLiteral("'%1' is not UTF-8").arg(QString::fromUtf8(argv[i])));
+            return static_cast<int>(status);
+        }
+    }
     return static_cast<int>(ridelog::runCommandLine(QCoreApplication::arguments()));
 }

@@ -25,12 +25,6 @@ qint64 offsetAt(const QTimeZone& zone, qint64 secondsSinceEpoch)
 
 } // namespace
 
-QTimeZone localTimeZone()
-{
-    const auto zone = QTimeZone::systemTimeZone();
-    return zone.isValid() ? zone : QTimeZone::utc();
-}
-
 QDateTime now()
 {
     return QDateTime::currentDateTimeUtc().toTimeZone(localTimeZone());

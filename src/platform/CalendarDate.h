@@ -8,7 +8,8 @@
 /// A plain QDateTime of kind Qt::TimeZone holds both; these are the operations that Qt leaves open.
 namespace ridelog::CalendarDate {
 
-/// The user's time zone, as the TZ variable or the system's setting has it; UTC where neither is usable.
+/// The user's time zone, as the C library understands the TZ variable or the system's setting; UTC where
+/// neither is usable.
 QTimeZone localTimeZone();
 
 /// The current date in the local time zone.
