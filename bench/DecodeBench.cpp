@@ -7,7 +7,9 @@
 #include "platform/Log.h"
 #include "simulator/RideGenerator.h"
 
+#include <algorithm>
 #include <benchmark/benchmark.h>
+#include <chrono>
 #include <cstdint>
 #include <cstdio>
 #include <malloc.h>
@@ -26,7 +28,6 @@ const QByteArray& fullDump()
     static const QByteArray dump = [] {
         std::vector<DumpTour> tours;
         DumpWriter writer;
-        const DumpSample zero;
         while (writer.freeRecords() > 3) {
             DumpTour tour{.month = 3, .day = static_cast<int>(tours.size()) + 1, .altitudeAtStart = 400};
             const auto records = std::min(writer.freeRecords(), 254U) - 2;
@@ -45,10 +46,9 @@ const QByteArray& fullDump()
     return dump;
 }
 
-int hexDigit(char character)
+int digit(char character)
 {
-    const auto code = static_cast<unsigned char>(character);
-    return static_cast<std::int8_t>(code <= '@' ? code - 48 : code - 55);
+    return DumpDigits::hexValue(static_cast<unsigned char>(character));
 }
 
 void BareWords(benchmark::State& state)
@@ -59,8 +59,7 @@ void BareWords(benchmark::State& state)
         const char* group = dump.constData();
         for (auto& word : words) {
             word = static_cast<std::int16_t>(
-                ((hexDigit(group[0]) * 16 + hexDigit(group[1])) * 16 + hexDigit(group[2])) * 16 +
-                hexDigit(group[3]));
+                ((digit(group[0]) * 16 + digit(group[1])) * 16 + digit(group[2])) * 16 + digit(group[3]));
             group += DumpLayout::groupSize;
         }
         benchmark::DoNotOptimize(words.data());
@@ -89,8 +88,11 @@ int main(int argc, char** argv)
     mallopt(M_TRIM_THRESHOLD, 64 * 1024 * 1024);
     setLogLevel(LogLevel::none);
     const auto& dump = fullDump();
+    const auto now = CalendarDate::now();
     const PeakMemory memory;
-    const auto decoded = OdoData::initWithData(dump, CalendarDate::now());
+    const auto start = std::chrono::steady_clock::now();
+    const auto decoded = OdoData::initWithData(dump, now);
+    const std::chrono::duration<double, std::micro> first = std::chrono::steady_clock::now() - start;
     const auto risen = memory.risen();
     std::size_t samples = 0;
     for (const auto& tour : decoded.toursArray())
@@ -98,6 +100,8 @@ int main(int argc, char** argv)
     std::printf("%zu tours, %zu samples; memory for decoding and holding them: %.2f MiB (at most %.0f)\n",
                 decoded.toursArray().size(), samples, static_cast<double>(risen) / (1024 * 1024),
                 static_cast<double>(promisedMemory) / (1024 * 1024));
+    std::printf("the first decode of the process, with its tables and on fresh memory: %.0f us\n",
+                first.count());
     const auto ratio = ratioOf("Decode", "BareWords", argc, argv);
     return ratio <= promisedRatio && risen <= promisedMemory ? 0 : 1;
 }

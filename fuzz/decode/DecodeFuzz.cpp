@@ -1,6 +1,6 @@
-// Any bytes as a raw dump: they decode or are refused, every summary value can be asked for, and nothing is read
-// beyond them. Short inputs are taken for the start of the record area, so that the fuzzer need not invent the
-// 81,930 bytes around it.
+// Any bytes as a raw dump: they decode or are refused, every summary value can be asked for, and nothing is
+// read beyond them. The first byte says what the others are: a whole file, or the start of the record area of
+// a dump that is just long enough or longer, so that the fuzzer need not invent the 81,930 bytes around it.
 
 #include "decode/OdoData.h"
 #include "exchange/TourJson.h"
@@ -14,13 +14,15 @@ using namespace ridelog;
 
 namespace {
 
-QByteArray dumpOf(const QByteArray& bytes)
+QByteArray dumpOf(const QByteArray& input)
 {
-    if (bytes.size() >= DumpLayout::dumpSize)
+    const auto kind = input.isEmpty() ? 0 : input.front() % 3;
+    const auto bytes = input.mid(1);
+    if (kind == 0)
         return bytes;
-    QByteArray dump(DumpLayout::dumpSize, 'F');
+    QByteArray dump(kind == 1 ? DumpLayout::dumpSize : DumpLayout::dumpSize + DumpLayout::recordSize, 'F');
     dump.replace(0, 4, DumpLayout::signature);
-    return dump.replace(DumpLayout::recordAreaOffset, bytes.size(), bytes).left(DumpLayout::dumpSize);
+    return dump.replace(DumpLayout::recordAreaOffset, bytes.size(), bytes).left(dump.size());
 }
 
 } // namespace
@@ -45,7 +47,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         writeTour(json, *tour, 1, {.series = tour->data().size() < 100});
         samples += tour->tourData().size();
     }
-    // Two refusals in a row can make two records of 42 characters, never one record more.
+    // Every record that stores samples takes its 40 characters; a longer dump may hold one record more.
     if (samples > std::size_t{DumpLayout::recordSlots + 1} * DumpLayout::samplesPerRecord)
         std::abort();
     return 0;

@@ -25,7 +25,7 @@ QString printable(const QString& text)
 
 void complain(const QString& message)
 {
-    const auto line = QStringLiteral("ridelog-cli: %1\n").arg(printable(message)).toUtf8();
+    const auto line = QStringLiteral("%1: %2\n").arg(programName, printable(message)).toUtf8();
     std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
 }
 
@@ -46,6 +46,11 @@ ExitStatus wrongWords(const QString& message)
 {
     complain(message);
     return ExitStatus::wrongWords;
+}
+
+ExitStatus wrongWords(const Command& command, const QString& message)
+{
+    return wrongWords(QStringLiteral("%1 (see %2 %3 --help)").arg(message, programName, command.name()));
 }
 
 ExitStatus refuse(const QString& file, const QString& reason)

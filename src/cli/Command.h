@@ -42,7 +42,9 @@ public:
     virtual QString name() const = 0;
     virtual QString description() const = 0;
     /// All of them have to be given.
-    virtual QList<Argument> arguments() const = 0;
+    virtual QList<Argument> arguments() const { return {}; }
+    /// What its usage line shows behind its name.
+    virtual QString synopsis() const = 0;
     virtual QList<QCommandLineOption> options() const = 0;
     virtual ExitStatus execute(const CommandContext& context) const = 0;
 };
@@ -50,9 +52,13 @@ public:
 /// All commands, in the order in which the help lists them.
 const std::vector<std::unique_ptr<const Command>>& allCommands();
 
+inline const QString programName = QStringLiteral("ridelog-cli");
+
 // One line on standard error each, beginning with the program's name.
 
 ExitStatus wrongWords(const QString& message);
+/// Points to the command's help as well.
+ExitStatus wrongWords(const Command& command, const QString& message);
 ExitStatus refuse(const QString& file, const QString& reason);
 ExitStatus fail(const QString& file, const QString& reason);
 

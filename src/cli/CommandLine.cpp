@@ -12,8 +12,6 @@
 namespace ridelog {
 namespace {
 
-const QString programName = QStringLiteral("ridelog-cli");
-
 QString programHelp()
 {
     QString text =
@@ -23,29 +21,60 @@ QString programHelp()
             .arg(programName);
     for (const auto& command : allCommands())
         text += QStringLiteral("  %1 %2\n").arg(command->name().leftJustified(12), command->description());
-    text += QStringLiteral("\nOptions:\n"
-                           "  --help       Shows this help; after a command, the help of the command\n"
-                           "  --version    Shows the version\n");
+    text += QStringLiteral("\nEvery command takes:\n"
+                           "  --help            Shows the help of the command\n"
+                           "  --miles           Shows miles, mph and feet\n"
+                           "  --now TIME        Stands in for the current date\n"
+                           "  --log LEVEL       none, errors or trace\n"
+                           "\nAlone: --help, --version\n");
     return text;
+}
+
+/// The text as options and arguments stand in a help: the word, then what it means.
+QString helpLine(const QString& word, const QString& meaning)
+{
+    return QStringLiteral("  %1  %2\n").arg(word.leftJustified(16), meaning);
+}
+
+QCommandLineOption helpOption()
+{
+    return {{QStringLiteral("help"), QStringLiteral("h")}, QStringLiteral("Shows this help.")};
 }
 
 QCommandLineOption logOption()
 {
     return {QStringLiteral("log"),
             QStringLiteral("What of the log goes to standard error: none (the default), errors or trace."),
-            QStringLiteral("level"), QStringLiteral("none")};
+            QStringLiteral("LEVEL"), QStringLiteral("none")};
 }
 
 QCommandLineOption nowOption()
 {
     return {QStringLiteral("now"),
             QStringLiteral("Stands in for the current date, in local time: 2007-03-10T12:00:00."),
-            QStringLiteral("time")};
+            QStringLiteral("TIME")};
 }
 
 QCommandLineOption milesOption()
 {
     return {QStringLiteral("miles"), QStringLiteral("Shows miles, mph and feet. JSON stays metric.")};
+}
+
+QString commandHelp(const Command& command)
+{
+    QString text = QStringLiteral("Usage: %1 %2 %3\n\n%4\n\n")
+                       .arg(programName, command.name(), command.synopsis(), command.description());
+    for (const auto& argument : command.arguments())
+        text += helpLine(argument.name, argument.description);
+    for (const auto& option :
+         command.options() + QList{milesOption(), nowOption(), logOption(), helpOption()}) {
+        const auto name = option.names().constFirst();
+        auto word = (name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name;
+        if (!option.valueName().isEmpty())
+            word += u' ' + option.valueName();
+        text += helpLine(word, option.description());
+    }
+    return text;
 }
 
 std::optional<LogLevel> logLevelOf(const QString& name)
@@ -73,34 +102,27 @@ std::optional<QDateTime> localTimeOf(const QString& text)
 ExitStatus runCommand(const Command& command, const QStringList& words)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(command.description());
-    parser.addPositionalArgument(command.name(), QString());
-    for (const auto& argument : command.arguments())
-        parser.addPositionalArgument(argument.name, argument.description);
     parser.addOptions(command.options());
-    parser.addOptions({logOption(), nowOption(), milesOption()});
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
-                                  QStringLiteral("Shows this help."));
-    parser.addOption(help);
-
-    const auto hint = QStringLiteral(" (see %1 %2 --help)").arg(programName, command.name());
-    if (!parser.parse(words))
-        return wrongWords(parser.errorText() + hint);
-    if (parser.isSet(help)) {
-        const auto usage = QStringLiteral("[options] ") + command.name();
-        return print(parser.helpText().replace(usage, command.name() + QStringLiteral(" [options]")));
+    parser.addOptions({logOption(), nowOption(), milesOption(), helpOption()});
+    if (!parser.parse(words)) {
+        auto error = parser.errorText();
+        if (error.endsWith(u'.'))
+            error.chop(1);
+        return wrongWords(command, error);
     }
+    if (parser.isSet(QStringLiteral("help")))
+        return print(commandHelp(command));
 
     const auto level = logLevelOf(parser.value(QStringLiteral("log")));
     if (!level)
-        return wrongWords(QStringLiteral("--log takes none, errors or trace") + hint);
+        return wrongWords(command, QStringLiteral("--log takes none, errors or trace"));
     setLogLevel(*level);
 
     auto now = CalendarDate::now();
     if (parser.isSet(QStringLiteral("now"))) {
         const auto given = localTimeOf(parser.value(QStringLiteral("now")));
         if (!given)
-            return wrongWords(QStringLiteral("--now takes a time like 2007-03-10T12:00:00") + hint);
+            return wrongWords(command, QStringLiteral("--now takes a time like 2007-03-10T12:00:00"));
         now = *given;
     }
 
@@ -108,10 +130,10 @@ ExitStatus runCommand(const Command& command, const QStringList& words)
     const auto wanted = command.arguments();
     for (qsizetype i = 0; i < wanted.size(); ++i) {
         if (arguments.value(i).isEmpty())
-            return wrongWords(QStringLiteral("%1 is missing").arg(wanted[i].name) + hint);
+            return wrongWords(command, QStringLiteral("%1 is missing").arg(wanted[i].name));
     }
     if (arguments.size() > wanted.size())
-        return wrongWords(QStringLiteral("'%1' is one word too many").arg(arguments[wanted.size()]) + hint);
+        return wrongWords(command, QStringLiteral("'%1' is one word too many").arg(arguments[wanted.size()]));
 
     return command.execute({.options = parser,
                             .arguments = arguments,

@@ -1,13 +1,14 @@
 #include "cli/InspectCommand.h"
 
-#include "cli/ReadableUnits.h"
 #include "cli/TextTable.h"
 #include "decode/OdoData.h"
 #include "exchange/TourJson.h"
+#include "format/ReadableUnits.h"
 
 #include <QCommandLineParser>
 #include <QFile>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace ridelog {
@@ -61,6 +62,12 @@ QString generalDataText(const GeneralData& generalData)
     return table.text();
 }
 
+/// A tour that goes on at the front of the ring holds more samples than its values are made of yet.
+bool isStitched(const OdoTour& tour)
+{
+    return tour.data().size() <= tour.tourDataDict()->tourData.size();
+}
+
 QString toursText(const OdoData& dump, const ReadableUnits& units)
 {
     using Column = TextTable::Column;
@@ -77,7 +84,8 @@ QString toursText(const OdoData& dump, const ReadableUnits& units)
         table.addRow(
             {QString::number(++number), tour->date().toString(QStringLiteral("yyyy-MM-dd HH:mm")),
              tour->type().value_or(QStringLiteral("?")),
-             QString::number(tour->tourDataDict()->tourData.size()),
+             QString::number(tour->tourDataDict()->tourData.size()) +
+                 (isStitched(*tour) ? QStringLiteral("*") : QString()),
              QString::number(units.distance(tour->totalDistance()), 'f', 2),
              QStringLiteral("%1:%2").arg(tour->hours()).arg(tour->minutes(), 2, 10, QLatin1Char('0')),
              QString::number(units.altitude(tour->elevationGain()), 'f', 0),
@@ -87,7 +95,11 @@ QString toursText(const OdoData& dump, const ReadableUnits& units)
              QString::number(static_cast<double>(tour->maxPulse()), 'f', 0),
              QString::number(tour->avgPower(), 'f', 0)});
     }
-    return table.text();
+    auto text = table.text();
+    if (std::ranges::any_of(dump.toursArray(), [](const auto& tour) { return isStitched(*tour); }))
+        text += QStringLiteral(
+            "\n  * goes on at the front of the memory; the values are those of its first part\n");
+    return text;
 }
 
 } // namespace
@@ -107,6 +119,11 @@ QList<Command::Argument> InspectCommand::arguments() const
     return {{QStringLiteral("DUMP"), QStringLiteral("A raw dump, as the device sends it.")}};
 }
 
+QString InspectCommand::synopsis() const
+{
+    return QStringLiteral("DUMP [--json] [--series] [--raw]");
+}
+
 QList<QCommandLineOption> InspectCommand::options() const
 {
     return {{jsonName, QStringLiteral("Prints JSON with every value.")},
@@ -116,13 +133,17 @@ QList<QCommandLineOption> InspectCommand::options() const
 
 ExitStatus InspectCommand::execute(const CommandContext& context) const
 {
+    const bool json = context.options.isSet(jsonName);
+    const TourJsonParts parts{.series = context.options.isSet(seriesName),
+                              .raw = context.options.isSet(rawName)};
+    if (!json && (parts.series || parts.raw))
+        return wrongWords(*this, QStringLiteral("--series and --raw go with --json"));
     const auto file = context.arguments.constFirst();
     const auto dump = OdoData::initWithFile(file, context.now);
     if (!dump.refusal().isEmpty())
         return refuse(file, dump.refusal());
-    if (context.options.isSet(jsonName))
-        return printJson(
-            dump, {.series = context.options.isSet(seriesName), .raw = context.options.isSet(rawName)});
+    if (json)
+        return printJson(dump, parts);
 
     QString text = QStringLiteral("General data\n\n%1\n").arg(generalDataText(dump.generalDataDict()));
     if (dump.toursArray().empty())

@@ -10,6 +10,7 @@ public:
     QString name() const override;
     QString description() const override;
     QList<Argument> arguments() const override;
+    QString synopsis() const override;
     QList<QCommandLineOption> options() const override;
     ExitStatus execute(const CommandContext& context) const override;
 };

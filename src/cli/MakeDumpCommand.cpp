@@ -25,9 +25,9 @@ QString MakeDumpCommand::description() const
     return QStringLiteral("Writes a plausible raw dump for trying things out.");
 }
 
-QList<Command::Argument> MakeDumpCommand::arguments() const
+QString MakeDumpCommand::synopsis() const
 {
-    return {};
+    return QStringLiteral("[--tours N] [--seed S] [--wrap] -o DUMP");
 }
 
 QList<QCommandLineOption> MakeDumpCommand::options() const
@@ -50,15 +50,15 @@ ExitStatus MakeDumpCommand::execute(const CommandContext& context) const
     generator.tours = options.value(toursName).toInt(&toursOk);
     generator.seed = options.value(seedName).toUInt(&seedOk);
     if (!toursOk || generator.tours < 0 || generator.tours > RideGenerator::mostTours)
-        return wrongWords(QStringLiteral("--tours takes a number from 0 to %1, what the memory holds")
-                              .arg(RideGenerator::mostTours));
+        return wrongWords(*this, QStringLiteral("--tours takes a number from 0 to %1, what the memory holds")
+                                     .arg(RideGenerator::mostTours));
     if (!seedOk)
-        return wrongWords(QStringLiteral("--seed takes a whole number from 0 to 4294967295"));
+        return wrongWords(*this, QStringLiteral("--seed takes a whole number from 0 to 4294967295"));
     if (generator.wrapped && generator.tours == 0)
-        return wrongWords(QStringLiteral("--wrap needs a tour to wrap"));
+        return wrongWords(*this, QStringLiteral("--wrap needs a tour to wrap"));
     const auto path = options.value(outputName);
     if (path.isEmpty())
-        return wrongWords(QStringLiteral("-o is missing: the file to write"));
+        return wrongWords(*this, QStringLiteral("-o is missing: the file to write"));
 
     if (const auto error = writeWholeFile(path, generator.dump()))
         return fail(path, *error);

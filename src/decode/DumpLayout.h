@@ -94,6 +94,35 @@ inline constexpr std::array<GeneralDataField, 28> generalDataFields{{
     {760, FieldKind::address, u"offset last compare record"},
 }};
 
+/// Where the fields of a record stand, counted from its first character. Group g begins at 5g. The header
+/// byte comes first: a start record's sport code, else the temperature.
+namespace RecordLayout {
+
+inline constexpr std::uint32_t typeCode = 2;
+
+// Tour start
+inline constexpr std::uint32_t endAddress = 5;
+inline constexpr std::uint32_t hour = 10;
+inline constexpr std::uint32_t minute = 12;
+inline constexpr std::uint32_t month = 15;
+inline constexpr std::uint32_t day = 17;
+inline constexpr std::uint32_t distanceAtStart = 20;
+inline constexpr std::uint32_t altitudeAtStart = 30;
+inline constexpr std::uint32_t pulseAtStart = 35;
+
+// Data and last data
+inline constexpr std::uint32_t endMarker = 5;
+inline constexpr std::uint32_t cadence = 7;
+inline constexpr std::uint32_t firstSample = 10;
+
+// Tour end
+inline constexpr std::uint32_t startAddress = 5;
+
+} // namespace RecordLayout
+
+/// The second byte of a record's first word, printed as two characters.
+enum TypeCode : std::uint8_t { tourStart = 0xAA, data = 0xBB, lastData = 0xCC, tourEnd = 0xDD };
+
 /// A sport as the dump's tour start records and the tours know it.
 struct Sport {
     QByteArrayView code; ///< the two characters as printed; no other spelling counts

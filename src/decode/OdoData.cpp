@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QLocale>
 
+#include <algorithm>
 #include <utility>
 
 namespace ridelog {
@@ -15,6 +16,9 @@ Q_LOGGING_CATEGORY(lcDecode, "ridelog.decode")
 namespace {
 
 using namespace DumpLayout;
+
+/// Room for the tours of a usual memory.
+constexpr std::size_t usualTours = 32;
 
 /// A number with its thousands set apart, for messages.
 QString grouped(qint64 number)
@@ -97,23 +101,20 @@ bool OdoData::parseData()
             QStringLiteral("not a raw dump: it does not begin with \"%1\"").arg(QLatin1String(signature));
         return false;
     }
+    if (!recordAreaIsText()) {
+        _refusal = QStringLiteral("not a raw dump: no record and no hexadecimal digits at byte %1")
+                       .arg(grouped(recordAreaOffset));
+        return false;
+    }
     parseGeneralData();
     qCDebug(lcDecode, "General Data: %s", qUtf8Printable(textForm(_generalDataDict)));
 
-    _scan = {};
+    _toursArray.reserve(usualTours);
     _bufPos = recordAreaOffset;
     scanRecords();
     finishWrappedTour();
     qCDebug(lcDecode, "localCounter %d, arrayCounter: %zu", _scan.localCounter, _toursArray.size());
-    _scan = {};
-
-    // Odd characters among tours are the device's business; a record area without a tour that is not even
-    // hexadecimal is some other file, which must not pass for an empty memory.
-    if (_toursArray.empty()) {
-        if (const auto foreign = firstForeignCharacter())
-            _refusal = QStringLiteral("not a raw dump: no tours, and byte %1 is not a hexadecimal digit")
-                           .arg(grouped(*foreign));
-    }
+    _scan = {}; // gives its memory back
     return true;
 }
 
@@ -148,16 +149,18 @@ void OdoData::addNSNumberUsingInt(std::int32_t number, QStringView withName)
     _generalDataDict.insert(withName.toString(), number);
 }
 
-std::optional<std::uint32_t> OdoData::firstForeignCharacter() const
+bool OdoData::recordAreaIsText() const
 {
-    for (auto offset = recordAreaOffset; offset < dumpSize; ++offset) {
-        const auto character = _data[offset];
-        const bool digit = (character >= '0' && character <= '9') || (character >= 'A' && character <= 'F');
-        const bool separator = offset % groupSize == groupSize - 1;
-        if (!digit && !separator)
-            return offset;
-    }
-    return std::nullopt;
+    // Odd characters among records are the device's business. But a memory whose first group is neither a
+    // record nor erased nor anything else in hexadecimal is some other file, and must not pass for one
+    // without tours.
+    const auto typeCode = recordAreaOffset + RecordLayout::typeCode;
+    if (typeCodeIs("AA", typeCode) || typeCodeIs("BB", typeCode) || typeCodeIs("CC", typeCode) ||
+        typeCodeIs("DD", typeCode))
+        return true;
+    return std::all_of(at(recordAreaOffset), at(recordAreaOffset + groupSize - 1), [](char character) {
+        return (character >= '0' && character <= '9') || (character >= 'A' && character <= 'F');
+    });
 }
 
 } // namespace ridelog

@@ -11,7 +11,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -101,7 +100,7 @@ private:
     std::uint32_t dataRecordsFrom(std::uint32_t record) const;
     void finishTour();
     void finishWrappedTour();
-    std::optional<std::uint32_t> firstForeignCharacter() const;
+    bool recordAreaIsText() const;
 
     // Fields at an offset of the dump.
     const char* at(std::uint32_t offset) const { return _data.constData() + offset; }

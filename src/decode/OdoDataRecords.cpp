@@ -10,11 +10,7 @@ namespace {
 
 using namespace DumpLayout;
 
-// Offsets within a record, counted from its first character.
-constexpr std::uint32_t typeCodeAt = 2;
-constexpr std::uint32_t secondFieldAt = 5;
-constexpr std::uint32_t cadenceAt = 7;
-constexpr std::uint32_t firstSampleAt = 10;
+namespace Field = RecordLayout;
 
 } // namespace
 
@@ -30,7 +26,7 @@ void OdoData::scanRecords()
 {
     const auto size = static_cast<std::uint64_t>(_data.size());
     while (_bufPos <= lastRecordStart && _bufPos + recordSize <= size) {
-        _bufPos += typeCodeAt;
+        _bufPos += Field::typeCode;
         if (typeCodeIs("AA", _bufPos)) {
             qCDebug(lcDecode, "handleAAEntry");
             handleAAEntry();
@@ -62,20 +58,21 @@ void OdoData::handleAAEntry()
     }
     _scan.flTourRunning = true;
 
-    const auto start = _bufPos - typeCodeAt;
+    const auto start = _bufPos - Field::typeCode;
     TourDictionary tour;
     const auto code = QByteArrayView(_data).sliced(start, 2);
     if (const auto* sport = std::ranges::find(sports, code, &Sport::code); sport != sports.end())
         tour.type = sport->type.toString();
-    tour.recordOffsetDD = offsetOfAddress(hexWord(start + 5));
-    tour.hour = decimalPair(start + 10);
-    tour.min = decimalPair(start + 12);
-    tour.month = decimalPair(start + 15);
-    tour.day = decimalPair(start + 17);
-    tour.distanceAtStart = hexWord(start + 20);
-    tour.altitudeAtStart = hexWord(start + 30);
-    tour.pulseAtStart = hexWord(start + 35);
+    tour.recordOffsetDD = offsetOfAddress(hexWord(start + Field::endAddress));
+    tour.hour = decimalPair(start + Field::hour);
+    tour.min = decimalPair(start + Field::minute);
+    tour.month = decimalPair(start + Field::month);
+    tour.day = decimalPair(start + Field::day);
+    tour.distanceAtStart = hexWord(start + Field::distanceAtStart);
+    tour.altitudeAtStart = hexWord(start + Field::altitudeAtStart);
+    tour.pulseAtStart = hexWord(start + Field::pulseAtStart);
     _bufPos = start + recordSize;
+    // One allocation a tour: for the data records that follow and the last data behind them.
     tour.tourData.reserve(std::size_t{dataRecordsFrom(_bufPos) + 1} * samplesPerRecord);
     _scan.tour = std::move(tour);
 }
@@ -90,10 +87,10 @@ void OdoData::handleBBEntry()
             qCDebug(lcDecode, "=========== intermediate Tour start");
         }
     }
-    const auto start = _bufPos - typeCodeAt;
+    const auto start = _bufPos - Field::typeCode;
     const RecordHead head{.temperature = hexByte(start),
-                          .endMarker = hexByte(start + secondFieldAt),
-                          .cadence = hexByte(start + cadenceAt),
+                          .endMarker = hexByte(start + Field::endMarker),
+                          .cadence = hexByte(start + Field::cadence),
                           .lastData = 0};
     addRecords(start, samplesPerRecord, head);
     _bufPos = start + recordSize;
@@ -106,10 +103,10 @@ void OdoData::handleCCEntry()
         qCWarning(lcDecode, "ERROR: LAST DATA WITHOUT TOUR");
         return;
     }
-    const auto start = _bufPos - typeCodeAt;
+    const auto start = _bufPos - Field::typeCode;
     const RecordHead head{.temperature = hexByte(start),
-                          .endMarker = hexByte(start + secondFieldAt),
-                          .cadence = hexByte(start + cadenceAt),
+                          .endMarker = hexByte(start + Field::endMarker),
+                          .cadence = hexByte(start + Field::cadence),
                           .lastData = 1};
     qCDebug(lcDecode, "Marker when tour exactly ended %d", head.endMarker);
     const auto recordsToStore = head.endMarker / sampleInterval + 1;
@@ -121,8 +118,9 @@ void OdoData::handleCCEntry()
 void OdoData::handleDDEntry()
 {
     qCDebug(lcDecode, "---------- TOUR END");
-    const auto start = _bufPos - typeCodeAt;
-    qCDebug(lcDecode, "pos %u AA record offset %f", start + 5, realOffsetOfAddress(hexWord(start + 5)));
+    const auto start = _bufPos - Field::typeCode;
+    qCDebug(lcDecode, "pos %u AA record offset %f", start + Field::startAddress,
+            realOffsetOfAddress(hexWord(start + Field::startAddress)));
     if (_scan.flTourRunning && !_scan.flIntermediateTour) {
         qCDebug(lcDecode, "---- COUNT %zu", _scan.tour.tourData.size());
         finishTour();
@@ -145,7 +143,7 @@ void OdoData::addRecords(std::uint32_t record, std::uint32_t count, RecordHead h
     auto& samples = _scan.flIntermediateTour ? _scan.intermediateSamples : _scan.tour.tourData;
     const auto held = samples.size();
     samples.resize(held + count);
-    const auto* word = at(record + firstSampleAt);
+    const auto* word = at(record + Field::firstSample);
     for (auto& sample : std::span(samples).subspan(held)) {
         sample.temperature = head.temperature;
         sample.endMarker = head.endMarker;
@@ -160,7 +158,7 @@ std::uint32_t OdoData::dataRecordsFrom(std::uint32_t record) const
 {
     std::uint32_t count = 0;
     for (; record + recordSize <= static_cast<std::uint64_t>(_data.size()); record += recordSize) {
-        if (!typeCodeIs("BB", record + typeCodeAt))
+        if (!typeCodeIs("BB", record + Field::typeCode))
             break;
         ++count;
     }

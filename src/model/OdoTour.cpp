@@ -19,7 +19,7 @@ const QString untitled = QStringLiteral("n/a");
 std::shared_ptr<OdoTour> OdoTour::initWithOdoDataTourDict(std::optional<TourDictionary> tourDict,
                                                           const QDateTime& now)
 {
-    const std::shared_ptr<OdoTour> tour(new OdoTour);
+    std::shared_ptr<OdoTour> tour(new OdoTour);
     tour->_tourDataDict = std::move(tourDict);
     tour->setTitle(untitled);
     tour->setTourDescription(untitled);

@@ -17,7 +17,7 @@ namespace ridelog {
 
 /// One recorded tour: what the device recorded, kept unchanged, and what the rider adds to it. The series and
 /// the first summary values are computed when the tour is made, the other summary values on first request.
-/// Tours are shared by the document, its windows and its undo steps; all of them live on the main thread.
+/// Tours are shared by whoever shows or edits them, all on the main thread.
 class OdoTour {
 public:
     OdoTour(const OdoTour&) = delete;
@@ -88,7 +88,7 @@ public:
                              double altitudeDiff);
 
     /// Grade in per cent of a rise y over a run x; 0 over no run.
-    static float calcClimbingPercentage(float deltaX, float deltaY);
+    static float calcClimbingPercentageDeltaX(float deltaX, float deltaY);
 
     // Summary values. Units stand with CalculatedValues; an average over nothing is 0.
 

@@ -15,13 +15,12 @@ constexpr double densityDecrease = -0.00012514185492227978;
 // half the density at that temperature.
 constexpr double halfDensityTimesKelvin = 181.88921925;
 constexpr double kelvinAtZeroCelsius = 273.15;
-// Drag: how far the rider's posture (frontal area) and pedalling enlarge the drag area, and the bicycle's
-// own.
+// Drag area in m²: that of the rider, which grows with the cadence, and that of the bicycle.
 constexpr double dragWithoutPedalling = 0.9204;
 constexpr double dragPerRevolution = 0.002;
 constexpr double dragPedalling = 0.78;
-constexpr double frontalArea = 0.25092421756969363;
-constexpr double bodySurface = 1.6296016639326663;
+constexpr double riderDrag = 0.25092421756969363;
+constexpr double riderArea = 1.6296016639326663;
 constexpr double bicycleDragArea = 0.108;
 
 /// `value` without its fraction, kept inside the range of int; 0 for NaN.
@@ -52,7 +51,7 @@ int OdoTour::calcPowerFrom(int altitude, int temperature, int cad, double timeDi
     const double rollPower = weightPower * rollingResistance * std::cos(slope);
     const double drag = cad == 0 ? dragWithoutPedalling : (cad * dragPerRevolution + 1.0) * dragPedalling;
     const double airPower = std::exp(densityDecrease * altitude) * halfDensityTimesKelvin *
-                            (speed * speed * speed) * (drag * frontalArea * bodySurface + bicycleDragArea) /
+                            (speed * speed * speed) * (drag * riderDrag * riderArea + bicycleDragArea) /
                             (temperature + kelvinAtZeroCelsius);
     const double power = airPower + (slopePower + rollPower);
     return power < 0 ? 0 : truncated(power);

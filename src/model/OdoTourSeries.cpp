@@ -7,7 +7,7 @@
 namespace ridelog {
 namespace {
 
-/// A sum that goes round at the ends of its range, as the device's own counters do.
+/// A sum that goes round at the ends of its range: hostile values must not end in undefined arithmetic.
 std::int32_t sumWrapping(std::int32_t left, std::int32_t right)
 {
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(left) + static_cast<std::uint32_t>(right));
@@ -34,14 +34,14 @@ struct Slope {
 /// Air and rider are taken as on a day at 20 °C, 200 m up, pedalling at 60 a minute.
 Slope slopeOf(std::int32_t distance, std::int32_t altitudeChange)
 {
-    return {.grade = OdoTour::calcClimbingPercentage(static_cast<float>(distance),
-                                                     static_cast<float>(altitudeChange)),
+    return {.grade = OdoTour::calcClimbingPercentageDeltaX(static_cast<float>(distance),
+                                                           static_cast<float>(altitudeChange)),
             .power = OdoTour::calcPowerFrom(200, 20, 60, sampleInterval, distance, altitudeChange)};
 }
 
 /// Roads and slopes of all samples that a device can record: distances are multiples of 10 below 640 m,
-/// altitude changes lie between −128 and 121 m. Divisions and trigonometry are done once per pair, not once
-/// per sample.
+/// altitude changes lie between −128 and 121 m. Divisions and trigonometry are done once per pair and
+/// process, which costs about as much as a full dump would without the table, and not once per sample.
 class SampleTable {
 public:
     SampleTable()
@@ -93,7 +93,7 @@ const SampleTable& sampleTable()
 
 } // namespace
 
-float OdoTour::calcClimbingPercentage(float deltaX, float deltaY)
+float OdoTour::calcClimbingPercentageDeltaX(float deltaX, float deltaY)
 {
     return deltaX == 0 ? 0.0F : deltaY / deltaX * 100.0F;
 }

@@ -11,9 +11,7 @@ constexpr qint64 secondsPerDay = 86400;
 qint64 secondsOfFields(int year, int month, int day, int hour, int minute, int second)
 {
     using namespace std::chrono;
-    const auto monthsFromJanuary = qint64{month} - 1;
-    const auto firstOfMonth =
-        std::chrono::year{year} / January / 1 + months{static_cast<int>(monthsFromJanuary)};
+    const auto firstOfMonth = std::chrono::year{year} / January / 1 + months{month - 1};
     const auto days = sys_days{firstOfMonth}.time_since_epoch().count() + qint64{day} - 1;
     return days * secondsPerDay + qint64{hour} * 3600 + qint64{minute} * 60 + second;
 }

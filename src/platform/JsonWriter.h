@@ -11,9 +11,10 @@ QT_FORWARD_DECLARE_CLASS(QDateTime)
 
 namespace ridelog {
 
-/// Writes JSON to a device as it comes: keys stay in the order they are given, memory does not grow with the
-/// document. A number is the shortest text that reads back to the same value, a 32-bit float as one;
-/// infinities and NaN, which JSON does not have, become null.
+/// Writes JSON to a device as it comes. Unlike the toolkit's documents, which sort keys, know only doubles
+/// and are built whole: keys stay in the order they are given, memory does not grow with the document. A
+/// number is the shortest text that reads back to the same value, a 32-bit float as one; infinities and NaN,
+/// which JSON does not have, become null.
 ///
 /// Calls have to nest as JSON does; `key` comes before each value of an object. The device's own errors are
 /// remembered: ask `finish` at the end.

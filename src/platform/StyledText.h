@@ -6,7 +6,7 @@
 
 namespace ridelog {
 
-/// A text that a rider may style. Without attributes it is the plain text alone.
+/// A text for people.
 class StyledText {
 public:
     StyledText() = default;

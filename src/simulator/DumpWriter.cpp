@@ -15,9 +15,6 @@ using Record = DumpWriter::Record;
 
 constexpr char separator = ' ';
 constexpr std::uint16_t erased = 0xFFFF;
-constexpr std::uint16_t dataCode = 0xBB;
-constexpr std::uint16_t lastDataCode = 0xCC;
-constexpr std::uint16_t endCode = 0xDD;
 
 std::int32_t offsetOfSlot(std::uint32_t slot)
 {
@@ -128,7 +125,7 @@ bool DumpWriter::addTour(const DumpTour& tour)
 
     const auto startSlot = slotAfter(_records.size());
     const auto endSlot = slotAfter(_records.size() + needed - 1);
-    addRecord({word(tour.sportCode.toUInt(nullptr, 16), 0xAA), addressOfSlot(endSlot),
+    addRecord({word(tour.sportCode.toUInt(nullptr, 16), TypeCode::tourStart), addressOfSlot(endSlot),
                word(decimalByte(tour.hour), decimalByte(tour.minute)),
                word(decimalByte(tour.month), decimalByte(tour.day)),
                static_cast<std::uint16_t>(tour.distanceAtStart), 0,
@@ -143,7 +140,8 @@ bool DumpWriter::addTour(const DumpTour& tour)
         const auto marker = (count - 1) * sampleInterval + static_cast<std::size_t>(tour.secondsOfLastSample);
         Record record;
         record.fill(erased);
-        record[0] = word(static_cast<unsigned>(first.temperature), last ? lastDataCode : dataCode);
+        record[0] =
+            word(static_cast<unsigned>(first.temperature), last ? TypeCode::lastData : TypeCode::data);
         record[1] = word(last ? static_cast<unsigned>(marker) : 0, static_cast<unsigned>(first.cadence));
         for (std::size_t i = 0; i < count; ++i)
             record[2 + i] = encoder.word(tour.samples[begin + i]);
@@ -152,7 +150,7 @@ bool DumpWriter::addTour(const DumpTour& tour)
         addRecord(record);
     }
 
-    addRecord({endCode, addressOfSlot(startSlot)});
+    addRecord({TypeCode::tourEnd, addressOfSlot(startSlot)});
     _lastStartSlot = startSlot;
     _lastEndSlot = endSlot;
     return true;
@@ -166,12 +164,12 @@ GeneralData DumpWriter::completedGeneralData() const
             data.insert(name.toString(), value);
     };
     supply(u"next free memory offset", static_cast<std::int16_t>(addressOfSlot(slotAfter(_records.size()))));
-    if (_lastDataSlot)
-        supply(u"offset last CC record", offsetOfSlot(*_lastDataSlot));
-    if (_lastEndSlot)
-        supply(u"offset last DD record", offsetOfSlot(*_lastEndSlot));
-    if (_lastStartSlot)
-        supply(u"offset last compare record", offsetOfSlot(*_lastStartSlot));
+    const auto offsetOr0 = [](std::optional<std::uint32_t> slot) {
+        return slot ? offsetOfSlot(*slot) : offsetOfAddress(0);
+    };
+    supply(u"offset last CC record", offsetOr0(_lastDataSlot));
+    supply(u"offset last DD record", offsetOr0(_lastEndSlot));
+    supply(u"offset last compare record", offsetOr0(_lastStartSlot));
     return data;
 }
 
@@ -195,16 +193,14 @@ QByteArray DumpWriter::dump() const
         case FieldKind::hexWord:
             put(field.offset, hexText(static_cast<std::uint16_t>(value)));
             break;
-        case FieldKind::address: {
-            const bool given = generalData.contains(field.name.toString());
-            put(field.offset, hexText(given ? static_cast<std::uint16_t>(addressOfOffset(value)) : 0));
+        case FieldKind::address:
+            put(field.offset, hexText(static_cast<std::uint16_t>(addressOfOffset(value))));
             break;
-        }
         case FieldKind::decimalPair:
             put(field.offset, hexText(static_cast<std::uint16_t>(decimalByte(value))).right(2));
             break;
         case FieldKind::decimalQuad:
-            put(field.offset, QByteArray::number(value % 10000).rightJustified(4, '0'));
+            put(field.offset, QByteArray::number(std::abs(value) % 10000).rightJustified(4, '0'));
             break;
         }
     }
@@ -225,7 +221,8 @@ QByteArray DumpWriter::dump() const
         for (auto slot = slotAfter(_records.size()); slot != _firstSlot; ++slot) {
             const auto left = _firstSlot - slot;
             const bool isLastData = left == 2 && slot != slotAfter(_records.size());
-            putRecord(slot, left == 1 ? Record{endCode} : Record{isLastData ? lastDataCode : dataCode});
+            putRecord(slot, left == 1 ? Record{TypeCode::tourEnd}
+                                      : Record{isLastData ? TypeCode::lastData : TypeCode::data});
         }
     }
     return text;

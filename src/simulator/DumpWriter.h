@@ -14,11 +14,13 @@ namespace ridelog {
 
 /// What the device measures at the end of a sample's 20 seconds.
 struct DumpSample {
+    // The device keeps these two once for every six samples: those of the first.
     std::int16_t temperature = 0; ///< °C, 0 to 255 (the device knows no frost)
     std::int16_t cadence = 0;     ///< revolutions per minute, 0 to 255
-    double altitude = 0;          ///< metres
-    double distance = 0;          ///< metres from the start of the tour
-    double pulse = 0;             ///< beats per minute
+
+    double altitude = 0; ///< metres
+    double distance = 0; ///< metres from the start of the tour
+    double pulse = 0;    ///< beats per minute
 };
 
 /// A tour as the device would record it.

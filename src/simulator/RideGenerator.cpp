@@ -157,6 +157,32 @@ DumpTour makeTour(QRandomGenerator& random, const QDate& day, int hour, std::siz
     return tour;
 }
 
+/// What the device sums up over all tours.
+class Totals {
+public:
+    void add(const DumpTour& tour)
+    {
+        double last = tour.altitudeAtStart;
+        for (const auto& sample : tour.samples) {
+            (sample.altitude > last ? _up : _down) += std::abs(sample.altitude - last);
+            _highest = std::max(_highest, sample.altitude);
+            last = sample.altitude;
+        }
+        _seconds += static_cast<int>(tour.samples.size()) * sampleInterval;
+    }
+
+    int up() const { return static_cast<int>(_up); }
+    int down() const { return static_cast<int>(_down); }
+    int highest() const { return static_cast<int>(_highest); }
+    int minutes() const { return _seconds / 60; }
+
+private:
+    double _up = 0;
+    double _down = 0;
+    double _highest = homeAltitude;
+    int _seconds = 0;
+};
+
 } // namespace
 
 QByteArray RideGenerator::dump() const
@@ -168,6 +194,7 @@ QByteArray RideGenerator::dump() const
     std::vector<DumpTour> rides;
     std::uint32_t records = 0;
     double kilometres = 8200;
+    Totals totals;
     const QDate newYear(year, 1, 1);
     QDate lastDay;
     int ridesToday = 0;
@@ -187,6 +214,7 @@ QByteArray RideGenerator::dump() const
         rides.push_back(makeTour(random, day, 7 + random.bounded(4) + 8 * ridesToday, samples,
                                  static_cast<int>(kilometres)));
         kilometres += rides.back().samples.back().distance / 1000;
+        totals.add(rides.back());
         records += DumpWriter::recordsFor(rides.back().samples.size());
     }
 
@@ -199,6 +227,14 @@ QByteArray RideGenerator::dump() const
                                {QStringLiteral("2nd pulse upper bound"), 175},
                                {QStringLiteral("2nd pulse lower bound"), 150},
                                {QStringLiteral("distance (end of last tour)"), static_cast<int>(kilometres)},
+                               {QStringLiteral("1st countdown (m)"), 20},
+                               {QStringLiteral("2nd countdown (m)"), 45},
+                               {QStringLiteral("total up (end of last tour)"), totals.up()},
+                               {QStringLiteral("total down (end of last tour)"), totals.down()},
+                               {QStringLiteral("maximum altitude"), totals.highest()},
+                               {QStringLiteral("total travel time (h)"), totals.minutes() / 60 % 100},
+                               {QStringLiteral("total travel time (h100)"), totals.minutes() / 6000},
+                               {QStringLiteral("total travel time (m)"), totals.minutes() % 60},
                                {QStringLiteral("Year"), year},
                                {QStringLiteral("Month"), readOn.month()},
                                {QStringLiteral("Day"), readOn.day()}};

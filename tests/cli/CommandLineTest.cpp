@@ -139,7 +139,7 @@ TEST_F(CommandLine, InspectJsonHasEveryValue)
 
 TEST_F(CommandLine, RandomDumpsGiveValidJson)
 {
-    for (int seed = 1; seed <= 25; ++seed) {
+    for (int seed = 1; seed <= 100; ++seed) {
         const auto dump = path("random.odo");
         auto words = QStringLiteral("make-dump --seed %1 --tours %2").arg(seed).arg(seed * 37 % 90 + 1);
         if (seed % 3 == 0)
@@ -171,7 +171,7 @@ TEST_F(CommandLine, BadInputIsRefusedInOneLine)
         {write("short.odo", dump.left(81929)), "not a raw dump: 81,929 bytes, at least 81,930 are needed"},
         {write("signature.odo", wrongSignature), "not a raw dump: it does not begin with \"AFRO\""},
         {write("garbage.odo", "AFRO" + QByteArray(90000, '\xFF')),
-         "not a raw dump: no tours, and byte 765 is not a hexadecimal digit"},
+         "not a raw dump: no record and no hexadecimal digits at byte 765"},
     };
     for (const auto& [file, reason] : cases) {
         for (const auto& more : {QStringList{file}, QStringList{file, QStringLiteral("--json")}}) {
@@ -197,6 +197,8 @@ TEST_F(CommandLine, WrongWordsAreExplained)
         {"inspect --now yesterday a", "--now takes a time like 2007-03-10T12:00:00"},
         {"inspect --now 2007-02-30T12:00:00 a", "--now takes a time like 2007-03-10T12:00:00"},
         {"inspect --now 2007-03-10 a", "--now takes a time like 2007-03-10T12:00:00"},
+        {"inspect --series a", "--series and --raw go with --json"},
+        {"inspect --help-all a", "Unknown option 'help-all'"},
         {"make-dump", "-o is missing"},
         {"make-dump --tours 677 -o x", "--tours takes a number from 0 to 676"},
         {"make-dump --tours many -o x", "--tours takes a number from 0 to 676"},
@@ -222,6 +224,41 @@ TEST_F(CommandLine, WhatCannotBeWrittenIsAFailureOfTheMachine)
                                .toUtf8());
 }
 
+TEST_F(CommandLine, OnlyARegularFileIsReplaced)
+{
+    const auto old = write("old.odo", "old");
+    ASSERT_TRUE(QFile::link(path("nowhere"), path("link")));
+    for (const auto& target : {path("."), path("link"), QStringLiteral("/dev/null")}) {
+        const auto outcome = run(QStringLiteral("make-dump -o"), {target});
+        EXPECT_EQ(outcome.status, 3) << qPrintable(target);
+        EXPECT_EQ(outcome.err.count('\n'), 1);
+    }
+    EXPECT_EQ(run(QStringLiteral("make-dump --tours 999 -o"), {old}).status, 2);
+    QFile kept(old);
+    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+    EXPECT_EQ(kept.readAll(), "old");
+}
+
+TEST_F(CommandLine, NamesAreShownOnOneLine)
+{
+    const auto outcome = run(QStringLiteral("inspect"), {QStringLiteral("two\nlines\x1b[31m")});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.err, "ridelog-cli: two\\x0alines\\x1b[31m: No such file or directory\n");
+}
+
+TEST_F(CommandLine, UnknownSportHasNoType)
+{
+    auto dump = RideGenerator{.tours = 1}.dump();
+    dump.replace(DumpLayout::recordAreaOffset, 2, "C1");
+    const auto tour = run(inspectAtYearsEnd, {write("odd.odo", dump), QStringLiteral("--json")})
+                          .json()[u"tours"]
+                          .toArray()
+                          .first()
+                          .toObject();
+    EXPECT_TRUE(tour[u"type"].isNull());
+    EXPECT_TRUE(tour[u"tourDataDict"].toObject()[u"type"].isNull());
+}
+
 TEST_F(CommandLine, LogIsSilentUnlessAsked)
 {
     const auto dump = write("rides.odo", RideGenerator{.tours = 2}.dump());
@@ -241,7 +278,8 @@ TEST_F(CommandLine, HelpAndVersion)
     EXPECT_TRUE(help.out.contains("inspect") && help.out.contains("make-dump"));
     const auto inspect = run(QStringLiteral("inspect --help"));
     EXPECT_EQ(inspect.status, 0);
-    EXPECT_TRUE(inspect.out.contains("inspect [options] DUMP") && inspect.out.contains("--series"));
+    EXPECT_TRUE(inspect.out.startsWith("Usage: ridelog-cli inspect DUMP [--json]") &&
+                inspect.out.contains("--series"));
     EXPECT_TRUE(run(QStringLiteral("--version")).out.startsWith("ridelog-cli 0."));
 }
 

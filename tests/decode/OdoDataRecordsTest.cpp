@@ -148,7 +148,7 @@ TEST(RecordStream, ScanGoesOnTwoCharactersBehindARefusedRecord)
     // Behind the refused start the next type code is read from a separator and a digit: with a "D" as
     // separator they make a tour end, two characters off the grid.
     auto dump = dumpOf({start, data, {0xA1AA, 0xD140}});
-    const auto refused = static_cast<qsizetype>(DumpLayout::recordAreaOffset + 2 * DumpLayout::recordSize);
+    const qsizetype refused = DumpLayout::recordAreaOffset + 2 * DumpLayout::recordSize;
     dump[refused + 4] = 'D';
     const auto decoded = decode(dump);
     ASSERT_EQ(decoded.toursArray().size(), 1U);

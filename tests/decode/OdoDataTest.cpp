@@ -123,8 +123,11 @@ TEST(OdoDataRefusal, WrongSignatureIsNotLogged)
 TEST(OdoDataRefusal, SomethingElseBehindTheSignature)
 {
     QByteArray garbage = "AFRO " + QByteArray(81925, '?');
-    EXPECT_EQ(OdoData::initWithData(garbage).refusal().toStdString(),
-              "not a raw dump: no tours, and byte 765 is not a hexadecimal digit");
+    const auto refused = OdoData::initWithData(garbage);
+    EXPECT_EQ(refused.refusal().toStdString(),
+              "not a raw dump: no record and no hexadecimal digits at byte 765");
+    EXPECT_TRUE(refused.generalDataDict().isEmpty());
+    EXPECT_TRUE(dumpWith(70000, "~").refusal().isEmpty()) << "noise in an empty memory is still a memory";
 }
 
 class OdoDataFile : public testing::Test {

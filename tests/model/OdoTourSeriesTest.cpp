@@ -83,7 +83,7 @@ TEST(OdoTourSeries, TabledSamplesAndOthersFollowTheSameFormulas)
                                     : static_cast<float>(rise) / static_cast<float>(distance) * 100.0F);
         }
     }
-    EXPECT_EQ(OdoTour::calcClimbingPercentage(200, 10), 5.0F);
+    EXPECT_EQ(OdoTour::calcClimbingPercentageDeltaX(200, 10), 5.0F);
 }
 
 TEST(OdoTourSeries, TourWithoutADictionaryHasOneEntryOfZeros)

@@ -1,4 +1,4 @@
-#include "cli/ReadableUnits.h"
+#include "format/ReadableUnits.h"
 
 #include "format/UnitFactors.h"
 
