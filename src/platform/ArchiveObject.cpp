@@ -10,6 +10,7 @@
 #include <bit>
 #include <cmath>
 #include <set>
+#include <tuple>
 
 namespace ridelog {
 namespace {
@@ -138,15 +139,15 @@ std::vector<ArchiveValue> ArchiveObject::values() const
     return all;
 }
 
-bool ArchiveObject::operator==(const ArchiveObject& other) const
+bool ArchiveObject::areEqual(std::vector<std::pair<ArchiveObject, ArchiveObject>> pairs)
 {
-    // Pairs still to be compared, and those that have been or will be: rings and shared objects end there.
-    std::vector<std::pair<ArchiveObject, ArchiveObject>> toCompare{{*this, other}};
-    std::set<std::pair<std::uint32_t, std::uint32_t>> seen;
-    while (!toCompare.empty()) {
-        const auto [left, right] = toCompare.back();
-        toCompare.pop_back();
-        if (left.isSameObject(right) || !seen.emplace(left._index, right._index).second)
+    // Objects that are being compared, or have been: rings and shared objects end there.
+    std::set<std::tuple<const ArchiveGraph*, std::uint32_t, const ArchiveGraph*, std::uint32_t>> seen;
+    while (!pairs.empty()) {
+        const auto [left, right] = std::move(pairs.back());
+        pairs.pop_back();
+        if (left.isSameObject(right) ||
+            !seen.emplace(left._graph.get(), left._index, right._graph.get(), right._index).second)
             continue;
         if (left.isNil() || right.isNil() || left.typeStrings() != right.typeStrings())
             return false;
@@ -160,7 +161,7 @@ bool ArchiveObject::operator==(const ArchiveObject& other) const
             if (one.index() != two.index())
                 return false;
             if (const auto* object = std::get_if<ArchiveObject>(&one)) {
-                toCompare.emplace_back(*object, std::get<ArchiveObject>(two));
+                pairs.emplace_back(*object, std::get<ArchiveObject>(two));
                 return true;
             }
             if (const auto* namedClass = std::get_if<const ArchiveClass*>(&one))

@@ -58,7 +58,9 @@ public:
         return _graph == other._graph && _index == other._index;
     }
     /// Same classes, types and values, references followed.
-    bool operator==(const ArchiveObject& other) const;
+    bool operator==(const ArchiveObject& other) const { return areEqual({{*this, other}}); }
+    /// The same of many pairs. What several of them refer to is compared once.
+    static bool areEqual(std::vector<std::pair<ArchiveObject, ArchiveObject>> pairs);
 
     /// One for every group of values, in order.
     std::vector<QByteArray> typeStrings() const;
