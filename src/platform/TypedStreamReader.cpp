@@ -162,7 +162,7 @@ TypedStreamReader::Head TypedStreamReader::takeHead(std::uint32_t tableSize, std
     const auto value = takeInteger(tag);
     if (failed())
         return Head::nil;
-    if (value < firstReference || value - firstReference >= qint64{tableSize}) {
+    if (value < firstReference || value >= qint64{tableSize} + firstReference) {
         failAt(start, QStringLiteral("reference to an entry that is not there"));
         return Head::nil;
     }
