@@ -15,13 +15,14 @@ namespace {
 using namespace TypedStream;
 
 constexpr qsizetype largestArchive = qsizetype{1} << 30;
+constexpr qsizetype usualBytesPerObject = 16;
 constexpr std::size_t deepestNesting = 200;
 constexpr std::size_t longestClassChain = 64;
 constexpr std::size_t mostClasses = 65536;
 constexpr qsizetype longestName = 4096;
 /// References may multiply what an archive says; this many times its size is read again and no more.
 constexpr qint64 readAgainFactor = 8;
-constexpr qint64 readAgainAtLeast = 1 << 20;
+constexpr qint64 readAgainAtLeast = 1 << 16;
 /// What a reference costs beside the bytes it stands for.
 constexpr qint64 costOfReference = 16;
 
@@ -37,6 +38,8 @@ TypedStreamReader::TypedStreamReader(QByteArrayView bytes)
       _mayReadAgain(readAgainFactor * bytes.size() + readAgainAtLeast),
       _graph(std::make_shared<ArchiveGraph>())
 {
+    // The table grows to millions of entries: what is not used of this costs nothing.
+    _objects.reserve(static_cast<std::size_t>(bytes.size() / usualBytesPerObject));
     readHeader();
 }
 
@@ -176,13 +179,13 @@ std::uint32_t TypedStreamReader::addEntry(Entry entry, std::uint32_t place)
 {
     const auto number = _at.objects++;
     if (number == _objects.size())
-        _objects.push_back({place, entry});
+        _objects.emplace_back(place, entry);
     return number;
 }
 
 bool TypedStreamReader::isEntry(std::uint32_t number, Entry entry)
 {
-    if (_objects[number].entry == entry)
+    if (_objects[number].entry() == entry)
         return true;
     fail(QStringLiteral("reference to an entry of another kind"));
     return false;
@@ -217,7 +220,7 @@ std::optional<std::uint32_t> TypedStreamReader::takeCString()
     case Head::nil:
         return std::nullopt;
     case Head::reference:
-        return isEntry(number, Entry::cString) ? std::optional(_objects[number].place) : std::nullopt;
+        return isEntry(number, Entry::cString) ? std::optional(_objects[number].place()) : std::nullopt;
     case Head::isNew:
         break;
     }
@@ -226,7 +229,7 @@ std::optional<std::uint32_t> TypedStreamReader::takeCString()
     if (!text)
         fail(QStringLiteral("a text expected"));
     else
-        _objects[number].place = *text;
+        _objects[number] = {*text, Entry::cString};
     return text;
 }
 
@@ -254,7 +257,7 @@ std::optional<std::uint32_t> TypedStreamReader::takeClass()
         case Head::reference:
             goesOn = false;
             if (isEntry(number, Entry::finishedClass))
-                found = _objects[number].place;
+                found = _objects[number].place();
             break;
         case Head::isNew:
             if (length == longestClassChain) {
@@ -273,11 +276,11 @@ std::optional<std::uint32_t> TypedStreamReader::takeClass()
     while (length > 0 && !failed()) {
         const auto& unfinished = chain[--length];
         auto& entry = _objects[unfinished.number];
-        if (entry.entry == Entry::unfinishedClass) {
+        if (entry.entry() == Entry::unfinishedClass) {
             const auto* superclass = found ? &_graph->classes[*found] : nullptr;
             entry = {addClass(unfinished.name, unfinished.version, superclass), Entry::finishedClass};
         }
-        found = entry.place;
+        found = entry.place();
     }
     return failed() ? std::nullopt : found;
 }
@@ -363,7 +366,7 @@ TypedStreamReader::FoundObject TypedStreamReader::takeObject()
     found.head = takeHead(_at.objects, found.number);
     if (found.head == Head::isNew)
         found.number = addEntry(Entry::object, _at.position);
-    else if (found.head == Head::reference && _objects[found.number].entry != Entry::object)
+    else if (found.head == Head::reference && _objects[found.number].entry() != Entry::object)
         failAt(start, QStringLiteral("reference to an entry of another kind"));
     return failed() ? FoundObject{} : found;
 }
@@ -381,7 +384,7 @@ const ArchiveClass* TypedStreamReader::goToBody(FoundObject found)
 {
     _at.types = -1;
     if (found.head == Head::reference) {
-        _at.position = _objects[found.number].place;
+        _at.position = _objects[found.number].place();
         _at.objects = found.number + 1;
         const auto behind = std::partition_point(_strings.begin(), _strings.end(), [&](const auto& string) {
             return string.offset < _at.position;
@@ -413,7 +416,7 @@ const ArchiveClass* TypedStreamReader::open(FoundObject found, Cursor value)
     const auto* objectClass = goToBody(found);
     if (!objectClass)
         return nullptr;
-    _open.push_back({parent, found.number, _objects[found.number].place, isReference});
+    _open.push_back({parent, found.number, _objects[found.number].place(), isReference});
     return objectClass;
 }
 

@@ -39,6 +39,7 @@ class TypedStreamReader {
 public:
     /// Reads `bytes`, which have to outlive the reader. Objects that `readObject` keeps outlive both.
     explicit TypedStreamReader(QByteArrayView bytes);
+    explicit TypedStreamReader(QByteArray&&) = delete;
 
     bool failed() const { return _error.has_value(); }
     const std::optional<TypedStreamError>& error() const { return _error; }
@@ -115,12 +116,20 @@ private:
         std::int32_t kept = -1;  ///< index in the graph's strings, once it was kept
     };
 
-    enum class Entry : std::uint8_t { object, unfinishedClass, finishedClass, cString };
-    struct TableEntry {
+    enum class Entry : std::uint32_t { object, unfinishedClass, finishedClass, cString };
+    /// Four bytes, for there are millions of objects.
+    class TableEntry {
+    public:
+        TableEntry(std::uint32_t place, Entry entry) : _bits(place << 2 | static_cast<std::uint32_t>(entry))
+        {
+        }
+        Entry entry() const { return static_cast<Entry>(_bits & 3); }
         /// For an object, where its class stands; for a class, its index in the graph; for a C string, that
-        /// of its text.
-        std::uint32_t place;
-        Entry entry;
+        /// of its text. Archives are not large enough for more than 30 bits.
+        std::uint32_t place() const { return _bits >> 2; }
+
+    private:
+        std::uint32_t _bits;
     };
 
     enum class Head { nil, isNew, reference };

@@ -107,7 +107,7 @@ qsizetype TypedStreamReader::copyBlocksLike(const Cursor& first, char* out, qsiz
     if (!isPlain)
         return 0;
     const auto* pattern = _bytes.data() + first.position;
-    const auto classAfter = _objects[first.objects].place - first.position;
+    const auto classAfter = _objects[first.objects].place() - first.position;
     qsizetype copied = 0;
     while (copied < count && bytesLeft() >= length) {
         const auto* block = _bytes.data() + _at.position;

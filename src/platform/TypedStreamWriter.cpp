@@ -50,7 +50,7 @@ std::optional<std::int32_t> asInteger(float number)
 QString nameOf(const QDateTime& date)
 {
     const auto id = date.timeZone().id();
-    if (!id.startsWith("UTC"))
+    if (!id.startsWith("UTC") && QTimeZone::isTimeZoneIdAvailable(id))
         return QString::fromLatin1(id);
     const int minutes = date.offsetFromUtc() / 60;
     if (minutes == 0)

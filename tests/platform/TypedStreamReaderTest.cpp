@@ -79,7 +79,8 @@ TEST(TypedStreamReader, PullsValuesOverTheBordersOfGroups)
 
 TEST(TypedStreamReader, UnsignedNumbersMayBeStoredSignExtended)
 {
-    TypedStreamReader in(archiveOf(bytesOf("84 02 51 49 FD FF")));
+    const auto bytes = archiveOf(bytesOf("84 02 51 49 FD FF"));
+    TypedStreamReader in(bytes);
     EXPECT_EQ(in.readReal(), 18446744073709551613.0);
     EXPECT_EQ(in.readInteger(), -1);
     EXPECT_EQ(refusalOf(archiveOf(bytesOf("84 01 73 82 FF FF 00 00"))),
@@ -278,7 +279,8 @@ TEST(TypedStreamReader, RingsCanBeKeptComparedAndWritten)
     const auto kept = TypedStreamReader(bytes).readObject();
     EXPECT_TRUE(kept.toItems()->at(1).isSameObject(kept));
     EXPECT_TRUE(kept == TypedStreamReader(bytes).readObject());
-    EXPECT_FALSE(kept == TypedStreamReader(ring(QStringLiteral("other"))).readObject());
+    const auto other = ring(QStringLiteral("other"));
+    EXPECT_FALSE(kept == TypedStreamReader(other).readObject());
 
     TypedStreamReader in(bytes);
     readLists(in);
