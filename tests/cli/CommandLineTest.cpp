@@ -2,13 +2,13 @@
 
 #include "decode/DumpLayout.h"
 #include "simulator/RideGenerator.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -29,17 +29,8 @@ struct Outcome {
     }
 };
 
-class CommandLine : public testing::Test {
+class CommandLine : public testing::Test, protected TemporaryFolder {
 protected:
-    QString path(const char* name) const { return _folder.filePath(QString::fromLatin1(name)); }
-
-    QString write(const char* name, const QByteArray& bytes) const
-    {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        return file.fileName();
-    }
-
     static Outcome run(const QString& command, const QStringList& more = {})
     {
         QProcess process;
@@ -51,9 +42,6 @@ protected:
         EXPECT_TRUE(process.waitForFinished(30'000) && process.exitStatus() == QProcess::NormalExit);
         return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
     }
-
-private:
-    QTemporaryDir _folder;
 };
 
 const QString inspectAtYearsEnd = QStringLiteral("inspect --now 2007-12-31T23:59");

@@ -2,10 +2,10 @@
 
 #include "simulator/DumpWriter.h"
 #include "tests/support/LogCapture.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -130,24 +130,12 @@ TEST(OdoDataRefusal, SomethingElseBehindTheSignature)
     EXPECT_TRUE(dumpWith(70000, "~").refusal().isEmpty()) << "noise in an empty memory is still a memory";
 }
 
-class OdoDataFile : public testing::Test {
+class OdoDataFile : public testing::Test, protected TemporaryFolder {
 protected:
-    QString path(const char* name) const { return _folder.filePath(QString::fromLatin1(name)); }
-
-    QString write(const char* name, const QByteArray& bytes) const
-    {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        return file.fileName();
-    }
-
     static std::string refusalOf(const QString& file)
     {
         return OdoData::initWithFile(file).refusal().toStdString();
     }
-
-private:
-    QTemporaryDir _folder;
 };
 
 TEST_F(OdoDataFile, IsReadWhole)
