@@ -1,6 +1,7 @@
 #include "model/OdoTour.h"
 
 #include "model/TourLog.h"
+#include "platform/UndoManager.h"
 
 #include <QTimeZone>
 
@@ -10,22 +11,43 @@ namespace ridelog {
 
 Q_LOGGING_CATEGORY(lcTour, "ridelog.tour")
 
-namespace {
+OdoTour::OdoTour() = default;
+OdoTour::~OdoTour() = default;
 
-const QString untitled = QStringLiteral("n/a");
-
-} // namespace
+QString OdoTour::untitled()
+{
+    return QStringLiteral("n/a");
+}
 
 std::shared_ptr<OdoTour> OdoTour::initWithOdoDataTourDict(std::optional<TourDictionary> tourDict,
                                                           const QDateTime& now)
 {
     std::shared_ptr<OdoTour> tour(new OdoTour);
     tour->_tourDataDict = std::move(tourDict);
-    tour->setTitle(untitled);
-    tour->setTourDescription(untitled);
+    tour->setTitle(untitled());
+    tour->setTourDescription(untitled());
     tour->setRemoved(false);
     tour->calculateAllValues(now);
     return tour;
+}
+
+UndoManager* OdoTour::undo() const
+{
+    return _undo;
+}
+
+void OdoTour::setUndo(UndoManager* undo)
+{
+    _undo = undo;
+}
+
+template <typename Change>
+void OdoTour::registerUndo(const QString& actionName, Change&& change)
+{
+    if (!_undo)
+        return;
+    _undo->registerUndo([tour = shared_from_this(), change] { change(*tour); });
+    _undo->setActionName(actionName);
 }
 
 bool OdoTour::isSameTour(const OdoTour& other) const
@@ -50,6 +72,9 @@ QString OdoTour::description() const
 
 void OdoTour::setDate(const QDateTime& date)
 {
+    if (date == _date && date.timeZone() == _date.timeZone())
+        return;
+    registerUndo(QStringLiteral("date changed"), [old = _date](OdoTour& tour) { tour.setDate(old); });
     _date = date;
 }
 
@@ -93,6 +118,9 @@ int OdoTour::minutes() const
 
 void OdoTour::setTitle(const QString& title)
 {
+    if (title == _title)
+        return;
+    registerUndo(QStringLiteral("change title"), [old = _title](OdoTour& tour) { tour.setTitle(old); });
     _title = title;
 }
 
@@ -105,6 +133,10 @@ const StyledText& OdoTour::tourDescription() const
 void OdoTour::setTourDescription(const StyledText& description)
 {
     qCDebug(lcTour, "[setTourDescription]");
+    if (description == _description)
+        return;
+    registerUndo(QStringLiteral("change description"),
+                 [old = _description](OdoTour& tour) { tour.setTourDescription(old); });
     _description = description;
 }
 
@@ -116,6 +148,7 @@ void OdoTour::setTourDescription(const QString& plainText)
 void OdoTour::setRemoved(bool removed)
 {
     qCDebug(lcTour, "[setRemoved(%d)]", removed);
+    registerUndo(QStringLiteral("tour removed"), [removed](OdoTour& tour) { tour.setRemoved(!removed); });
     _removed = removed;
 }
 

@@ -7,6 +7,7 @@
 #include "platform/StyledText.h"
 
 #include <QDateTime>
+#include <QPointer>
 #include <QString>
 
 #include <memory>
@@ -15,11 +16,16 @@
 
 namespace ridelog {
 
+class TypedStreamReader;
+class TypedStreamWriter;
+class UndoManager;
+
 /// One recorded tour: what the device recorded, kept unchanged, and what the rider adds to it. The series and
 /// the first summary values are computed when the tour is made, the other summary values on first request.
 /// Tours are shared by whoever shows or edits them, all on the main thread.
-class OdoTour {
+class OdoTour : public std::enable_shared_from_this<OdoTour> {
 public:
+    ~OdoTour();
     OdoTour(const OdoTour&) = delete;
     OdoTour& operator=(const OdoTour&) = delete;
 
@@ -27,6 +33,14 @@ public:
     /// The device records no year: `now`, with its time zone, decides which one (see calculateDate).
     static std::shared_ptr<OdoTour> initWithOdoDataTourDict(std::optional<TourDictionary> tourDict,
                                                             const QDateTime& now = CalendarDate::now());
+
+    /// Reads a tour's stored form, one object of the archive. None for something that is no tour; that, and a
+    /// form of a version that is not known, refuses the archive (reader.failed()). A form without a date gets
+    /// its year from `now`.
+    static std::shared_ptr<OdoTour> initWithCoder(TypedStreamReader& reader,
+                                                  const QDateTime& now = CalendarDate::now());
+    /// Writes the stored form, as one object.
+    void encodeWithCoder(TypedStreamWriter& writer) const;
 
     // Identity
 
@@ -48,7 +62,11 @@ public:
     int hours() const;   ///< whole hours of the duration
     int minutes() const; ///< whole minutes beyond the hours
 
-    // What the rider edits
+    // What the rider edits. With an undo manager each change registers the way back and names the action; a
+    // value that is the one already held changes and registers nothing, but setRemoved always registers.
+
+    UndoManager* undo() const;
+    void setUndo(UndoManager* undo);
 
     const QString& title() const { return _title; }
     void setTitle(const QString& title);
@@ -123,7 +141,13 @@ public:
     const CalculatedValues& calculatedValues() const;
 
 private:
-    OdoTour() = default;
+    OdoTour();
+
+    template <typename Change>
+    void registerUndo(const QString& actionName, Change&& change);
+    void _convertDataFromBigEndian();
+    /// Title and description of a tour that has none.
+    static QString untitled();
 
     /// Builds the series and the first eight summary values in one pass over the samples.
     void calculateAllValues(const QDateTime& now);
@@ -132,6 +156,7 @@ private:
     /// in the time zone of `now`.
     void calculateDate(const QDateTime& now);
 
+    QPointer<UndoManager> _undo; ///< the document's; tours live in its steps, so it is not held
     std::optional<TourDictionary> _tourDataDict;
     QString _title;
     StyledText _description;

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "model/DataRect.h"
+#include "platform/ArchiveObject.h"
 
 #include <QString>
 
 #include <cstdint>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace ridelog {
@@ -22,6 +24,8 @@ struct TourDictionary {
     std::optional<std::int32_t> altitudeAtStart; ///< metres
     std::optional<std::int32_t> pulseAtStart;    ///< beats per minute
     std::vector<DataRect> tourData;              ///< the samples, one every 20 seconds
+    /// What a document holds beside these, kept to be written back.
+    std::vector<std::pair<QString, ArchiveObject>> otherEntries;
 
     bool operator==(const TourDictionary&) const = default;
 };

@@ -1,0 +1,167 @@
+#include "model/OdoTour.h"
+#include "model/TourLog.h"
+#include "platform/TypedStreamReader.h"
+#include "platform/TypedStreamWriter.h"
+
+#include <algorithm>
+
+namespace ridelog {
+namespace {
+
+constexpr int storedVersion = 6;
+constexpr char tourClassName[] = "OdoTour";
+const QString samplesKey = QStringLiteral("tourData");
+
+const ArchiveClass& tourClass()
+{
+    static const ArchiveClass stored{tourClassName, storedVersion, &ArchiveClasses::object};
+    return stored;
+}
+
+bool isNext(TypedStreamReader& reader, const char* className)
+{
+    const auto* next = reader.nextClass();
+    return next && next->isKindOf(className);
+}
+
+bool readField(TypedStreamReader& reader, std::optional<QString>& field)
+{
+    if (field || !isNext(reader, "NSString"))
+        return false;
+    field = reader.readString();
+    return true;
+}
+
+bool readField(TypedStreamReader& reader, std::optional<std::int32_t>& field)
+{
+    if (field || !isNext(reader, "NSNumber"))
+        return false;
+    if (const auto number = reader.readNumber()) {
+        field = number->toInt32();
+        if (!field)
+            reader.fail(QStringLiteral("a start value of a tour does not fit"));
+    }
+    return true;
+}
+
+std::optional<TourDictionary> readDictionary(TypedStreamReader& reader)
+{
+    TourDictionary dictionary;
+    const bool isDictionary = reader.readDictionary([&](const QString& key) {
+        if (key == samplesKey && dictionary.tourData.empty() && isNext(reader, "NSArray")) {
+            dictionary.tourData = reader.readRecords<DataRect>().value_or(std::vector<DataRect>());
+            return;
+        }
+        bool taken = false;
+        forEachEntry(dictionary, [&](QStringView name, auto& field) {
+            if (name == key)
+                taken = readField(reader, field);
+        });
+        if (!taken)
+            dictionary.otherEntries.emplace_back(key, reader.readObject());
+    });
+    return isDictionary ? std::optional(std::move(dictionary)) : std::nullopt;
+}
+
+void write(TypedStreamWriter& writer, const QString& text)
+{
+    writer.writeConstant(text);
+}
+
+void write(TypedStreamWriter& writer, std::int32_t number)
+{
+    writer.writeNumber(ArchiveNumber(number));
+}
+
+void writeDictionary(TypedStreamWriter& writer, const TourDictionary& dictionary)
+{
+    auto count = static_cast<qsizetype>(dictionary.otherEntries.size()) + 1;
+    forEachEntry(dictionary, [&count](QStringView, const auto& value) { count += value.has_value(); });
+    writer.beginDictionary(count);
+    forEachEntry(dictionary, [&writer](QStringView name, const auto& value) {
+        if (!value)
+            return;
+        writer.writeConstant(name.toString());
+        write(writer, *value);
+    });
+    writer.writeConstant(samplesKey);
+    writer.writeRecords(std::span<const DataRect>(dictionary.tourData));
+    for (const auto& [key, value] : dictionary.otherEntries) {
+        writer.writeConstant(key);
+        writer.writeObject(value);
+    }
+    writer.endObject();
+}
+
+} // namespace
+
+std::shared_ptr<OdoTour> OdoTour::initWithCoder(TypedStreamReader& reader, const QDateTime& now)
+{
+    const auto* storedClass = reader.openObject();
+    const auto version = storedClass ? storedClass->versionOf(tourClassName) : std::nullopt;
+    if (!version) {
+        reader.fail(QStringLiteral("a tour is missing"));
+        return nullptr;
+    }
+    qCDebug(lcTour, "Version %d", *version);
+    if (*version < 0 || *version == 5 || *version > storedVersion) {
+        reader.fail(
+            QStringLiteral("a tour is stored in version %1, which this program does not know").arg(*version));
+        return nullptr;
+    }
+
+    std::shared_ptr<OdoTour> tour(new OdoTour);
+    tour->_title = untitled();
+    tour->_description = StyledText(untitled());
+    tour->_dataIsBigEndian = true;
+    tour->_tourDataDict = readDictionary(reader);
+    if (*version >= 2) {
+        tour->_title = reader.readString().value_or(untitled());
+        if (const auto description = StyledText::fromArchive(reader.readObject()))
+            tour->_description = *description;
+        else
+            reader.fail(QStringLiteral("a tour's description is damaged"));
+    }
+    if (*version >= 3) {
+        const auto mark = reader.readData().value_or(QByteArrayView());
+        tour->_removed = !mark.isEmpty() && mark.front() != 0;
+    }
+    if (*version >= 4)
+        tour->_date = reader.readObject().toDate().value_or(QDateTime());
+    if (*version >= 6)
+        tour->_dataIsBigEndian = reader.readNumber().value_or(ArchiveNumber()).toBool();
+    reader.closeObject();
+    if (reader.failed())
+        return nullptr;
+
+    tour->_convertDataFromBigEndian();
+    tour->calculateAllValues(now);
+    return tour;
+}
+
+void OdoTour::_convertDataFromBigEndian()
+{
+    if (_dataIsBigEndian && _tourDataDict)
+        convertFromBigEndian(_tourDataDict->tourData);
+    _dataIsBigEndian = false;
+}
+
+void OdoTour::encodeWithCoder(TypedStreamWriter& writer) const
+{
+    static int encodings = 0;
+    qCDebug(lcTour, "encode %d for version %d", ++encodings, storedVersion);
+    writer.beginObject(tourClass());
+    if (_tourDataDict)
+        writeDictionary(writer, *_tourDataDict);
+    else
+        writer.writeNil();
+    writer.writeString(_title);
+    _description.write(writer);
+    const char removed = _removed ? 1 : 0;
+    writer.writeData(QByteArrayView(&removed, 1));
+    writer.writeDate(_date);
+    writer.writeNumber(ArchiveNumber(_dataIsBigEndian));
+    writer.endObject();
+}
+
+} // namespace ridelog
