@@ -26,7 +26,7 @@ QByteArray stored(const OdoTour& tour)
 std::shared_ptr<OdoTour> read(const QByteArray& archive)
 {
     TypedStreamReader in(archive);
-    const auto tour = OdoTour::initWithCoder(in, berlin(2007, 12, 31));
+    auto tour = OdoTour::initWithCoder(in, berlin(2007, 12, 31));
     EXPECT_FALSE(in.failed()) << qPrintable(in.error()->text());
     return tour;
 }
