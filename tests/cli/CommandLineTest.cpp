@@ -11,6 +11,7 @@
 #include <QProcess>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace ridelog {
 namespace {
@@ -216,7 +217,8 @@ TEST_F(CommandLine, OnlyARegularFileIsReplaced)
 {
     const auto old = write("old.odo", "old");
     ASSERT_TRUE(QFile::link(path("nowhere"), path("link")));
-    for (const auto& target : {path("."), path("link"), QStringLiteral("/dev/null")}) {
+    ASSERT_EQ(mkfifo(qPrintable(path("pipe")), 0600), 0);
+    for (const auto& target : {path("."), path("link"), path("pipe")}) {
         const auto outcome = run(QStringLiteral("make-dump -o"), {target});
         EXPECT_EQ(outcome.status, 3) << qPrintable(target);
         EXPECT_EQ(outcome.err.count('\n'), 1);
