@@ -1,5 +1,6 @@
 #include "model/OdoTour.h"
 
+#include "model/TourChanges.h"
 #include "model/TourLog.h"
 #include "platform/UndoManager.h"
 
@@ -41,6 +42,17 @@ void OdoTour::setUndo(UndoManager* undo)
     _undo = undo;
 }
 
+void OdoTour::setChanges(TourChanges* changes)
+{
+    _changes = changes;
+}
+
+void OdoTour::tellChange()
+{
+    if (_changes)
+        Q_EMIT _changes->changed(*this);
+}
+
 template <typename Change>
 void OdoTour::registerUndo(const QString& actionName, Change&& change)
 {
@@ -76,6 +88,7 @@ void OdoTour::setDate(const QDateTime& date)
         return;
     registerUndo(QStringLiteral("date changed"), [old = _date](OdoTour& tour) { tour.setDate(old); });
     _date = date;
+    tellChange();
 }
 
 void OdoTour::calculateDate(const QDateTime& now)
@@ -122,6 +135,7 @@ void OdoTour::setTitle(const QString& title)
         return;
     registerUndo(QStringLiteral("change title"), [old = _title](OdoTour& tour) { tour.setTitle(old); });
     _title = title;
+    tellChange();
 }
 
 const StyledText& OdoTour::tourDescription() const
@@ -138,6 +152,7 @@ void OdoTour::setTourDescription(const StyledText& description)
     registerUndo(QStringLiteral("change description"),
                  [old = _description](OdoTour& tour) { tour.setTourDescription(old); });
     _description = description;
+    tellChange();
 }
 
 void OdoTour::setTourDescription(const QString& plainText)
@@ -150,6 +165,7 @@ void OdoTour::setRemoved(bool removed)
     qCDebug(lcTour, "[setRemoved(%d)]", removed);
     registerUndo(QStringLiteral("tour removed"), [removed](OdoTour& tour) { tour.setRemoved(!removed); });
     _removed = removed;
+    tellChange();
 }
 
 void OdoTour::setTourDataDict(std::optional<TourDictionary> tourDict)

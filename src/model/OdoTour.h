@@ -16,6 +16,7 @@
 
 namespace ridelog {
 
+class TourChanges;
 class TypedStreamReader;
 class TypedStreamWriter;
 class UndoManager;
@@ -67,6 +68,8 @@ public:
 
     UndoManager* undo() const;
     void setUndo(UndoManager* undo);
+    /// Where each edit is told; undoing one is an edit as well.
+    void setChanges(TourChanges* changes);
 
     const QString& title() const { return _title; }
     void setTitle(const QString& title);
@@ -145,6 +148,7 @@ private:
 
     template <typename Change>
     void registerUndo(const QString& actionName, Change&& change);
+    void tellChange();
     void _convertDataFromBigEndian();
     /// Title and description of a tour that has none.
     static QString untitled();
@@ -156,7 +160,9 @@ private:
     /// in the time zone of `now`.
     void calculateDate(const QDateTime& now);
 
-    QPointer<UndoManager> _undo; ///< the document's; tours live in its steps, so it is not held
+    // The document's; tours live in its undo steps, so they hold neither.
+    QPointer<UndoManager> _undo;
+    QPointer<TourChanges> _changes;
     std::optional<TourDictionary> _tourDataDict;
     QString _title;
     StyledText _description;

@@ -14,7 +14,6 @@ namespace {
 
 using namespace TypedStream;
 
-constexpr qsizetype largestArchive = qsizetype{1} << 30;
 constexpr qsizetype usualBytesPerObject = 16;
 constexpr std::size_t deepestNesting = 200;
 constexpr std::size_t longestClassChain = 64;
@@ -25,6 +24,14 @@ constexpr qint64 readAgainFactor = 8;
 constexpr qint64 readAgainAtLeast = 1 << 16;
 /// What a reference costs beside the bytes it stands for.
 constexpr qint64 costOfReference = 16;
+
+constexpr qsizetype headerSize = 2 + littleEndianSignature.size();
+
+bool hasSignature(QByteArrayView bytes, QByteArrayView signature)
+{
+    return bytes.size() >= headerSize && bytes[1] == signature.size() &&
+           bytes.sliced(2, signature.size()) == signature;
+}
 
 } // namespace
 
@@ -43,20 +50,21 @@ TypedStreamReader::TypedStreamReader(QByteArrayView bytes)
     readHeader();
 }
 
+bool TypedStreamReader::isTypedStream(QByteArrayView firstBytes)
+{
+    return hasSignature(firstBytes, littleEndianSignature) || hasSignature(firstBytes, bigEndianSignature);
+}
+
 void TypedStreamReader::readHeader()
 {
     if (_bytes.size() > largestArchive)
         return failAt(0, QStringLiteral("archives of more than 1 GiB are not read"));
-    const auto signature = _bytes.sliced(0, std::min<qsizetype>(_bytes.size(), 13));
-    const auto isSignature = [&](QByteArrayView name) {
-        return signature.size() == 13 && signature[1] == 11 && signature.sliced(2) == name;
-    };
-    _bigEndian = isSignature(bigEndianSignature);
-    if (!_bigEndian && !isSignature(littleEndianSignature))
+    if (!isTypedStream(_bytes))
         return failAt(0, QStringLiteral("no typed stream"));
-    if (signature[0] != streamerVersion)
-        return failAt(0, QStringLiteral("typed stream of unknown version %1").arg(int{signature[0]}));
-    _at.position = 13;
+    _bigEndian = hasSignature(_bytes, bigEndianSignature);
+    if (_bytes[0] != streamerVersion)
+        return failAt(0, QStringLiteral("typed stream of unknown version %1").arg(int{_bytes[0]}));
+    _at.position = headerSize;
     takeInteger(); // the system's version, of which nothing depends
 }
 

@@ -41,6 +41,11 @@ public:
     explicit TypedStreamReader(QByteArrayView bytes);
     explicit TypedStreamReader(QByteArray&&) = delete;
 
+    /// Whether these are the first bytes (at least 13) of a typed stream, of either byte order.
+    static bool isTypedStream(QByteArrayView firstBytes);
+    /// Larger archives are refused.
+    static constexpr qsizetype largestArchive = qsizetype{1} << 30;
+
     bool failed() const { return _error.has_value(); }
     const std::optional<TypedStreamError>& error() const { return _error; }
     /// Refuses the archive at the current position, for a reason of the class code's own.

@@ -1,0 +1,171 @@
+#include "library/MyDocument.h"
+
+#include "library/LibraryLog.h"
+#include "platform/Defaults.h"
+#include "platform/TypedStreamReader.h"
+#include "platform/TypedStreamWriter.h"
+
+#include <utility>
+
+namespace ridelog {
+
+Q_LOGGING_CATEGORY(lcLibrary, "ridelog.library")
+
+namespace {
+
+const QString generalDataKey = QStringLiteral("generalData");
+const QString toursArrayKey = QStringLiteral("toursArray");
+
+/// Bytes that one tour takes beside its samples, and one sample: about.
+constexpr std::size_t usualTourSize = 512;
+constexpr std::size_t usualSampleSize = 28;
+
+void addTo(GeneralData& numbers, const QString& key, const ArchiveObject& value,
+           std::vector<std::pair<QString, ArchiveObject>>& otherEntries)
+{
+    const auto number = value.toNumber();
+    const auto whole = number ? number->toInt32() : std::nullopt;
+    if (whole && !numbers.contains(key))
+        numbers.insert(key, *whole);
+    else
+        otherEntries.emplace_back(key, value);
+}
+
+} // namespace
+
+/// What a file holds, before a document takes it over.
+struct MyDocument::Content {
+    std::optional<Tours> tours;
+    std::optional<StoredGeneralData> generalData;
+    KeptEntries otherEntries;
+
+    static std::optional<Tours> readTours(TypedStreamReader& reader, const QDateTime& now)
+    {
+        Tours tours;
+        const bool isList = reader.readArray([&](qsizetype) {
+            if (auto tour = OdoTour::initWithCoder(reader, now))
+                tours.push_back(std::move(tour));
+        });
+        if (!isList)
+            reader.fail(QStringLiteral("\"%1\" is no list").arg(toursArrayKey));
+        return tours;
+    }
+
+    static std::optional<StoredGeneralData> readGeneralData(TypedStreamReader& reader)
+    {
+        StoredGeneralData generalData;
+        const bool isDictionary = reader.readDictionary([&](const QString& key) {
+            addTo(generalData.numbers, key, reader.readObject(), generalData.otherEntries);
+        });
+        if (!isDictionary)
+            reader.fail(QStringLiteral("\"%1\" is no dictionary").arg(generalDataKey));
+        return generalData;
+    }
+
+    void read(TypedStreamReader& reader, const QDateTime& now)
+    {
+        const bool isDictionary = reader.readDictionary([&](const QString& key) {
+            if (key == toursArrayKey && !tours)
+                tours = readTours(reader, now);
+            else if (key == generalDataKey && !generalData)
+                generalData = readGeneralData(reader);
+            else
+                otherEntries.emplace_back(key, reader.readObject());
+        });
+        if (!isDictionary)
+            reader.fail(QStringLiteral("an archive, but not of a tour library"));
+        for (const auto& [key, found] :
+             {std::pair(toursArrayKey, tours.has_value()), {generalDataKey, generalData.has_value()}}) {
+            if (!found)
+                reader.fail(QStringLiteral("not a tour library: \"%1\" is missing").arg(key));
+        }
+    }
+};
+
+MyDocument::MyDocument(Defaults* defaults, QObject* parent) : QObject(parent), _defaults(defaults) {}
+
+MyDocument::~MyDocument()
+{
+    if (_defaults)
+        _defaults->synchronize();
+}
+
+void MyDocument::setToursArray(Tours tours)
+{
+    qCDebug(lcLibrary, "setToursArray");
+    _toursArray = std::move(tours);
+    qCDebug(lcLibrary, "undoManager %p", static_cast<void*>(&_undoManager));
+    for (const auto& tour : _toursArray) {
+        tour->setUndo(&_undoManager);
+        tour->setChanges(&_tourChanges);
+    }
+    Q_EMIT toursArrayChanged();
+}
+
+void MyDocument::setGeneralData(const GeneralData& generalData)
+{
+    qCDebug(lcLibrary, "setGeneralData");
+    _generalData = {generalData, {}};
+}
+
+bool MyDocument::isDocument(QByteArrayView firstBytes)
+{
+    return TypedStreamReader::isTypedStream(firstBytes);
+}
+
+QByteArray MyDocument::dataRepresentationOfType(const QString& /*type*/) const
+{
+    std::size_t size = 4096;
+    for (const auto& tour : _toursArray)
+        size += usualTourSize + tour->data().size() * usualSampleSize;
+
+    TypedStreamWriter writer;
+    writer.reserve(static_cast<qsizetype>(size));
+    writer.beginDictionary(static_cast<qsizetype>(2 + _otherEntries.size()));
+
+    writer.writeConstant(generalDataKey);
+    const auto& [numbers, otherEntries] = _generalData;
+    writer.beginDictionary(numbers.size() + static_cast<qsizetype>(otherEntries.size()));
+    for (auto entry = numbers.begin(); entry != numbers.end(); ++entry) {
+        writer.writeConstant(entry.key());
+        writer.writeNumber(ArchiveNumber(*entry));
+    }
+    for (const auto& [key, value] : otherEntries) {
+        writer.writeConstant(key);
+        writer.writeObject(value);
+    }
+    writer.endObject();
+
+    writer.writeConstant(toursArrayKey);
+    writer.beginArray(static_cast<qsizetype>(_toursArray.size()));
+    for (const auto& tour : _toursArray)
+        tour->encodeWithCoder(writer);
+    writer.endObject();
+
+    for (const auto& [key, value] : _otherEntries) {
+        writer.writeConstant(key);
+        writer.writeObject(value);
+    }
+    writer.endObject();
+    return std::move(writer).bytes();
+}
+
+bool MyDocument::loadDataRepresentation(const QByteArray& data, const QString& ofType, const QDateTime& now)
+{
+    qCDebug(lcLibrary, "About to read data of type: %s", qUtf8Printable(ofType));
+    TypedStreamReader reader(data);
+    Content content;
+    content.read(reader, now);
+    if (reader.failed()) {
+        _refusal = QStringLiteral("not a readable document: ") + reader.error()->text();
+        return false;
+    }
+    _refusal.clear();
+    setToursArray(*std::move(content.tours));
+    qCDebug(lcLibrary, "setGeneralData");
+    _generalData = *std::move(content.generalData);
+    _otherEntries = std::move(content.otherEntries);
+    return true;
+}
+
+} // namespace ridelog

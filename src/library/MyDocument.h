@@ -1,0 +1,142 @@
+#pragma once
+
+#include "decode/DumpLayout.h"
+#include "library/TourMerge.h"
+#include "model/TourChanges.h"
+#include "platform/ArchiveObject.h"
+#include "platform/CalendarDate.h"
+#include "platform/DocumentFile.h"
+#include "platform/UndoManager.h"
+
+#include <QByteArray>
+#include <QObject>
+#include <QString>
+
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace ridelog {
+
+class Defaults;
+class OdoData;
+
+/// A rider's tour library: all tours, removed ones included, and what the device said of itself in the dump
+/// imported last. It is kept in one file.
+///
+/// What goes wrong is answered in words for people, none for nothing; the document and its file are then as
+/// they were.
+class MyDocument : public QObject {
+    Q_OBJECT
+
+public:
+    /// Names of what a document is, for file dialogs and the desktop.
+    static inline const QString typeName = QStringLiteral("application/x-ridelog");
+    static inline const QString extension = QStringLiteral("ridelog");
+
+    /// An empty document without a file. It writes the user's choices to their store when it goes; on the
+    /// command line there are none.
+    explicit MyDocument(Defaults* defaults = nullptr, QObject* parent = nullptr);
+    ~MyDocument() override;
+
+    // What it holds
+
+    /// In the order in which they were added.
+    const Tours& toursArray() const { return _toursArray; }
+    /// Takes another list and gives its tours the document's undo manager. Not an edit: registers nothing.
+    void setToursArray(Tours tours);
+    /// The device's settings and totals by name, as numbers. Empty before the first import.
+    const GeneralData& generalData() const { return _generalData.numbers; }
+    void setGeneralData(const GeneralData& generalData);
+    UndoManager& undoManager() { return _undoManager; }
+    /// Where the document's tours tell that they were edited.
+    TourChanges& tourChanges() { return _tourChanges; }
+
+    // Its stored form. The type's name makes no difference.
+
+    QByteArray dataRepresentationOfType(const QString& type) const;
+    /// Takes over what the bytes hold. False for anything but a tour library; `refusal` says why, and the
+    /// document stays as it was. Tours that are stored without a date get their year from `now`.
+    bool loadDataRepresentation(const QByteArray& data, const QString& ofType,
+                                const QDateTime& now = CalendarDate::now());
+    const QString& refusal() const { return _refusal; }
+
+    /// Whether these are the first bytes of a document, of this program or an older one.
+    static bool isDocument(QByteArrayView firstBytes);
+
+    // Its file
+
+    enum class Missing { refuse, startEmpty };
+    /// Reads the file and keeps others from writing it. A missing one is refused, or will come into being
+    /// when the document is saved.
+    std::optional<QString> open(const QString& path, Missing missing = Missing::refuse,
+                                const QDateTime& now = CalendarDate::now());
+    /// Refused without a file, when the document is read-only, and when another program has changed the file
+    /// meanwhile.
+    std::optional<QString> save();
+    /// Saves under another name and goes on with that file, over whatever is there: that was asked before.
+    std::optional<QString> saveAs(const QString& path);
+    /// Goes back to what the file holds, and forgets all steps.
+    std::optional<QString> revert(const QDateTime& now = CalendarDate::now());
+
+    /// As it was given; empty for a document without a file.
+    QString path() const { return _file ? _file->path() : QString(); }
+    bool isChanged() const { return !_undoManager.isClean(); }
+    bool isReadOnly() const { return !_readOnlyReason.isEmpty(); }
+    const QString& readOnlyReason() const { return _readOnlyReason; }
+    bool fileWasChangedByOthers() const { return _file && _file->wasChangedByOthers(); }
+    /// Lets the next save overwrite what others have written; to be asked before.
+    void acceptChangesOfOthers();
+
+    // What changes it. One undo step each.
+
+    /// Adds the tours that are not there yet. Answers how many.
+    std::size_t addNewToursFromArray(const Tours& tours);
+
+    struct Import {
+        std::size_t added = 0;
+        std::size_t alreadyThere = 0;
+        QString refusal; ///< why the dump was not decoded; empty if it was
+    };
+    /// Imports a raw dump, general data included. One that cannot be decoded changes nothing.
+    Import importFile(const QString& path, const QDateTime& now = CalendarDate::now());
+    /// Takes a whole dump from the device, and keeps it as a file if the user wants that.
+    Import handleTransferFinished(const QByteArray& dump, const QDateTime& now = CalendarDate::now());
+    /// Keeps what arrived of a dump, if anything did, as a file that can be imported.
+    static void handleTransferStopped(const QByteArray& dump);
+
+    /// Marks a tour as removed, or takes the mark away. It stays in the document.
+    void deleteTour(const std::shared_ptr<OdoTour>& tour);
+    void undeleteTour(const std::shared_ptr<OdoTour>& tour);
+
+Q_SIGNALS:
+    /// Tours came or went.
+    void toursArrayChanged();
+
+private:
+    using KeptEntries = std::vector<std::pair<QString, ArchiveObject>>;
+    struct StoredGeneralData {
+        GeneralData numbers;
+        KeptEntries otherEntries; ///< kept to be written back
+        bool operator==(const StoredGeneralData&) const = default;
+    };
+    struct Content;
+
+    std::optional<QString> load(const QByteArray& data, const QString& type, const QDateTime& now);
+    Import mergeDump(const OdoData& dump);
+    void appendTours(const Tours& tours);
+    void takeOutTours(const Tours& tours);
+    void replaceGeneralData(StoredGeneralData generalData);
+
+    Defaults* _defaults;
+    TourChanges _tourChanges;
+    UndoManager _undoManager;
+    Tours _toursArray;
+    StoredGeneralData _generalData;
+    KeptEntries _otherEntries; ///< of the root, kept to be written back
+    QString _refusal;
+    std::optional<DocumentFile> _file;
+    QString _readOnlyReason;
+};
+
+} // namespace ridelog

@@ -1,0 +1,134 @@
+#include "decode/OdoData.h"
+#include "library/DefaultsKeys.h"
+#include "library/LibraryLog.h"
+#include "library/MyDocument.h"
+#include "platform/Defaults.h"
+#include "platform/WholeFile.h"
+
+#include <QDir>
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace ridelog {
+namespace {
+
+QString addingTours(std::size_t count)
+{
+    return QStringLiteral("adding %1 tours").arg(count);
+}
+
+/// In the home folder, in the place of what was kept there before.
+void keepRawDump(const QString& name, const QByteArray& dump)
+{
+    const auto path = QDir::home().filePath(name);
+    qCDebug(lcLibrary, "Write raw data to: %s", qUtf8Printable(path));
+    if (const auto error = writeWholeFile(path, dump))
+        qCWarning(lcLibrary, "Could not write raw data to: %s: %s", qUtf8Printable(path),
+                  qUtf8Printable(*error));
+}
+
+} // namespace
+
+// Merging
+
+std::size_t MyDocument::addNewToursFromArray(const Tours& tours)
+{
+    const auto added = toursNotIn(_toursArray, tours);
+    const auto actionName = addingTours(added.size());
+    if (!added.empty()) {
+        for (const auto& tour : added)
+            qCDebug(lcLibrary, "Tourdate: %s added %ld", qUtf8Printable(tour->description()),
+                    tour.use_count());
+        _undoManager.registerUndo(
+            actionName, [this, added] { takeOutTours(added); }, [this, added] { appendTours(added); });
+        appendTours(added);
+    }
+    _undoManager.setActionName(actionName);
+    qCDebug(lcLibrary, "%zu tours added", added.size());
+    return added.size();
+}
+
+void MyDocument::appendTours(const Tours& tours)
+{
+    for (const auto& tour : tours) {
+        tour->setUndo(&_undoManager);
+        tour->setChanges(&_tourChanges);
+    }
+    _toursArray.insert(_toursArray.end(), tours.begin(), tours.end());
+    Q_EMIT toursArrayChanged();
+}
+
+void MyDocument::takeOutTours(const Tours& tours)
+{
+    const std::unordered_set<std::shared_ptr<OdoTour>> taken(tours.begin(), tours.end());
+    std::erase_if(_toursArray, [&taken](const auto& tour) { return taken.contains(tour); });
+    Q_EMIT toursArrayChanged();
+}
+
+void MyDocument::replaceGeneralData(StoredGeneralData generalData)
+{
+    if (generalData == _generalData)
+        return;
+    _undoManager.registerUndo([this, old = _generalData] { replaceGeneralData(old); });
+    qCDebug(lcLibrary, "setGeneralData");
+    _generalData = std::move(generalData);
+}
+
+// The two roads by which a dump arrives
+
+MyDocument::Import MyDocument::importFile(const QString& path, const QDateTime& now)
+{
+    const UndoGroup oneStep(_undoManager);
+    const auto dump = OdoData::initWithFile(path, now);
+    const auto import = mergeDump(dump);
+    if (import.refusal.isEmpty()) {
+        replaceGeneralData({dump.generalDataDict(), {}});
+        _undoManager.setActionName(addingTours(import.added));
+    }
+    return import;
+}
+
+MyDocument::Import MyDocument::handleTransferFinished(const QByteArray& dump, const QDateTime& now)
+{
+    qCDebug(lcLibrary, "[handleTransferFinished]");
+    qCDebug(lcLibrary, "data received %lld", static_cast<long long>(dump.size()));
+    if (_defaults && _defaults->boolForKey(DefaultsKeys::saveRawData))
+        keepRawDump(QStringLiteral("odoData.odo"), dump);
+    const UndoGroup oneStep(_undoManager);
+    return mergeDump(OdoData::initWithData(dump, now));
+}
+
+void MyDocument::handleTransferStopped(const QByteArray& dump)
+{
+    if (!dump.isEmpty())
+        keepRawDump(QStringLiteral("odoData.odo.tmp"), dump);
+}
+
+MyDocument::Import MyDocument::mergeDump(const OdoData& dump)
+{
+    const auto& tours = dump.toursArray();
+    const auto added = addNewToursFromArray(tours);
+    return {.added = added, .alreadyThere = tours.size() - added, .refusal = dump.refusal()};
+}
+
+// Removed marks. The tour registers the way back as well, and names the step. Undone, it is the tour that
+// takes its mark back first, so that nothing is left to do here.
+
+void MyDocument::deleteTour(const std::shared_ptr<OdoTour>& tour)
+{
+    if (tour->removed())
+        return;
+    _undoManager.registerUndo([this, tour] { undeleteTour(tour); });
+    tour->setRemoved(true);
+}
+
+void MyDocument::undeleteTour(const std::shared_ptr<OdoTour>& tour)
+{
+    if (!tour->removed())
+        return;
+    _undoManager.registerUndo([this, tour] { deleteTour(tour); });
+    tour->setRemoved(false);
+}
+
+} // namespace ridelog

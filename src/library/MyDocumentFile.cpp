@@ -1,0 +1,86 @@
+#include "library/MyDocument.h"
+#include "platform/TypedStreamReader.h"
+
+#include <QFileInfo>
+
+namespace ridelog {
+namespace {
+
+QString unsaved()
+{
+    return QStringLiteral("the document has no file yet");
+}
+
+} // namespace
+
+std::optional<QString> MyDocument::load(const QByteArray& data, const QString& type, const QDateTime& now)
+{
+    if (!loadDataRepresentation(data, type, now))
+        return _refusal;
+    _undoManager.removeAllActions();
+    _undoManager.setClean();
+    return std::nullopt;
+}
+
+std::optional<QString> MyDocument::open(const QString& path, Missing missing, const QDateTime& now)
+{
+    DocumentFile file(path);
+    // Locked before it is read: nobody changes what was read.
+    const auto owner = file.lock();
+    if (missing == Missing::refuse || QFileInfo::exists(path)) {
+        QByteArray bytes;
+        if (const auto error = file.read(bytes, TypedStreamReader::largestArchive))
+            return error;
+        if (const auto error = load(bytes, typeName, now))
+            return error;
+    }
+    _readOnlyReason = owner.value_or(QString());
+    _file = std::move(file);
+    return std::nullopt;
+}
+
+std::optional<QString> MyDocument::save()
+{
+    if (!_file)
+        return unsaved();
+    if (isReadOnly())
+        return _readOnlyReason;
+    if (const auto error = _file->write(dataRepresentationOfType(typeName)))
+        return error;
+    _undoManager.setClean();
+    return std::nullopt;
+}
+
+std::optional<QString> MyDocument::saveAs(const QString& path)
+{
+    if (_file && _file->isSameFile(path)) {
+        acceptChangesOfOthers();
+        return save();
+    }
+    DocumentFile file(path);
+    file.acceptChangesOfOthers();
+    if (const auto error = file.write(dataRepresentationOfType(typeName)))
+        return error;
+    _file = std::move(file);
+    _readOnlyReason.clear();
+    _undoManager.setClean();
+    return std::nullopt;
+}
+
+std::optional<QString> MyDocument::revert(const QDateTime& now)
+{
+    if (!_file)
+        return unsaved();
+    QByteArray bytes;
+    if (const auto error = _file->read(bytes, TypedStreamReader::largestArchive))
+        return error;
+    return load(bytes, typeName, now);
+}
+
+void MyDocument::acceptChangesOfOthers()
+{
+    if (_file)
+        _file->acceptChangesOfOthers();
+}
+
+} // namespace ridelog

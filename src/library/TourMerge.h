@@ -1,0 +1,21 @@
+#pragma once
+
+#include "model/OdoTour.h"
+
+#include <memory>
+#include <vector>
+
+namespace ridelog {
+
+/// Tours in an order of their own. They are shared with whoever shows or edits them.
+using Tours = std::vector<std::shared_ptr<OdoTour>>;
+
+/// Of `incoming`, in its order, the tours that `present` does not hold yet; of several equal ones the first.
+///
+/// Two tours are the same when they start at the same instant and have the same total distance, or the very
+/// same sample records. The latter is so for a tour that went over the end of the device's memory: as it
+/// comes from the device its distance is that of its first part, as it comes from a document that of the
+/// whole. Linear in the number of tours.
+Tours toursNotIn(const Tours& present, const Tours& incoming);
+
+} // namespace ridelog

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QByteArray>
+#include <QLockFile>
+#include <QString>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+namespace ridelog {
+
+/// The file of an open document. While the document is open other programs of this kind are told so by a lock
+/// file beside it; the file itself is only read, and replaced whole.
+///
+/// What goes wrong is answered in words for people, none for nothing.
+class DocumentFile {
+public:
+    /// Nothing is read or locked yet. Links in the path are followed.
+    explicit DocumentFile(const QString& path);
+
+    /// The path as it was given.
+    const QString& path() const { return _path; }
+    bool isSameFile(const QString& path) const;
+
+    /// Keeps others from writing, until this is destroyed. Answers who has kept the file before. Where a lock
+    /// cannot be made at all, as in a folder that is not to be written, the file counts as not kept by
+    /// others.
+    std::optional<QString> lock();
+
+    /// Reads the whole file, which is then known as it is. Larger files than `largest` bytes are refused.
+    std::optional<QString> read(QByteArray& bytes, qint64 largest);
+
+    /// Whether the file is another one than it was when it was last read or written here, or has come into
+    /// being since. One that has gone counts as unchanged: writing loses nothing.
+    bool wasChangedByOthers() const;
+
+    /// What was there may be overwritten, whoever wrote it.
+    void acceptChangesOfOthers() { _known = currentState(); }
+
+    /// Writes the file (see writeWholeFile). Before the first time, what was there is kept beside it under
+    /// its name with a "~" behind it. Refused when the file is locked or was changed by others.
+    std::optional<QString> write(const QByteArray& bytes);
+
+private:
+    /// Tells two states of a file apart.
+    struct State {
+        std::uint64_t device;
+        std::uint64_t number;
+        std::int64_t size;
+        std::int64_t modified; ///< nanoseconds
+        bool operator==(const State&) const = default;
+    };
+    std::optional<State> currentState() const;
+
+    QString _path;
+    QString _target; ///< links followed
+    std::unique_ptr<QLockFile> _lock;
+    std::optional<State> _known; ///< none: there is no file
+    bool _backedUp = false;
+};
+
+} // namespace ridelog
