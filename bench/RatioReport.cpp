@@ -3,38 +3,50 @@
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <limits>
-#include <map>
 #include <vector>
 
 namespace ridelog {
 namespace {
 
-/// The usual report on the console, which also keeps the median times by name.
+/// The usual report on the console, which also keeps the median times.
 class MedianReporter final : public benchmark::ConsoleReporter {
 public:
+    explicit MedianReporter(std::map<std::string, double>& medians) : _medians(medians) {}
+
     void ReportRuns(const std::vector<Run>& runs) override
     {
         for (const auto& run : runs) {
             if (run.run_type == Run::RT_Aggregate && run.aggregate_name == "median")
-                medians[run.run_name.function_name] = run.GetAdjustedCPUTime();
+                _medians[run.run_name.function_name] = run.GetAdjustedRealTime();
         }
         ConsoleReporter::ReportRuns(runs);
     }
 
-    std::map<std::string, double> medians;
+private:
+    std::map<std::string, double>& _medians;
 };
 
 } // namespace
 
-double ratioOf(const std::string& measured, const std::string& baseline, int argc, char** argv)
+RatioReport::RatioReport(int& argc, char** argv)
 {
     benchmark::Initialize(&argc, argv);
-    MedianReporter reporter;
+}
+
+void RatioReport::run()
+{
+    MedianReporter reporter(_medians);
     benchmark::RunSpecifiedBenchmarks(&reporter);
-    if (!reporter.medians.contains(measured) || !reporter.medians.contains(baseline))
+}
+
+double RatioReport::ratioOf(const std::string& measured, const std::string& baseline, double limit) const
+{
+    const auto found = _medians.find(measured);
+    const auto base = _medians.find(baseline);
+    if (found == _medians.end() || base == _medians.end())
         return std::numeric_limits<double>::infinity();
-    const auto ratio = reporter.medians[measured] / reporter.medians[baseline];
-    std::printf("%s: %.2f x %s\n", measured.c_str(), ratio, baseline.c_str());
+    const auto ratio = found->second / base->second;
+    std::printf("%s: %.2f x %s (at most %.1f)\n", measured.c_str(), ratio, baseline.c_str(), limit);
     return ratio;
 }
 

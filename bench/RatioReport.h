@@ -1,11 +1,25 @@
 #pragma once
 
+#include <map>
 #include <string>
 
 namespace ridelog {
 
-/// Runs the registered benchmarks and answers how many times longer `measured` took than `baseline`, by the
-/// median of their repetitions. Prints both and the ratio. Answers infinity if one of them did not run.
-double ratioOf(const std::string& measured, const std::string& baseline, int argc, char** argv);
+/// Runs the registered benchmarks, prints their times, and compares the medians of their repetitions.
+class RatioReport {
+public:
+    /// Takes the benchmark library's own options out of the program's words.
+    RatioReport(int& argc, char** argv);
+
+    /// Runs all that is registered.
+    void run();
+
+    /// How many times longer `measured` took than `baseline`; infinity if one of them did not run. Prints it
+    /// beside the promised limit.
+    double ratioOf(const std::string& measured, const std::string& baseline, double limit) const;
+
+private:
+    std::map<std::string, double> _medians; ///< real times by name
+};
 
 } // namespace ridelog

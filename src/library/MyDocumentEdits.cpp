@@ -34,19 +34,19 @@ void keepRawDump(const QString& name, const QByteArray& dump)
 
 std::size_t MyDocument::addNewToursFromArray(const Tours& tours)
 {
-    const auto added = toursNotIn(_toursArray, tours);
-    const auto actionName = addingTours(added.size());
-    if (!added.empty()) {
-        for (const auto& tour : added)
+    const auto added = std::make_shared<const Tours>(toursNotIn(_toursArray, tours));
+    const auto actionName = addingTours(added->size());
+    if (!added->empty()) {
+        for (const auto& tour : *added)
             qCDebug(lcLibrary, "Tourdate: %s added %ld", qUtf8Printable(tour->description()),
                     tour.use_count());
         _undoManager.registerUndo(
-            actionName, [this, added] { takeOutTours(added); }, [this, added] { appendTours(added); });
-        appendTours(added);
+            actionName, [this, added] { takeOutTours(*added); }, [this, added] { appendTours(*added); });
+        appendTours(*added);
     }
     _undoManager.setActionName(actionName);
-    qCDebug(lcLibrary, "%zu tours added", added.size());
-    return added.size();
+    qCDebug(lcLibrary, "%zu tours added", added->size());
+    return added->size();
 }
 
 void MyDocument::appendTours(const Tours& tours)

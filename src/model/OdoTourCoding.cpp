@@ -39,7 +39,7 @@ bool readField(TypedStreamReader& reader, std::optional<std::int32_t>& field)
     if (const auto number = reader.readNumber()) {
         field = number->toInt32();
         if (!field)
-            reader.fail(QStringLiteral("a start value of a tour does not fit"));
+            reader.fail(QStringLiteral("a start value of a tour is no whole number of 32 bits"));
     }
     return true;
 }

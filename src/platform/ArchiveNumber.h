@@ -44,12 +44,13 @@ public:
             return _integer;
         return _real >= -limit && _real < limit ? std::optional(static_cast<qint64>(_real)) : std::nullopt;
     }
-    /// None where the number does not fit.
+    /// None where the number is not a whole one or does not fit.
     std::optional<std::int32_t> toInt32() const
     {
         using Limits = std::numeric_limits<std::int32_t>;
         const auto whole = toInteger();
-        return whole && *whole >= Limits::min() && *whole <= Limits::max()
+        const bool exact = whole && (!isReal() || static_cast<double>(*whole) == _real);
+        return exact && *whole >= Limits::min() && *whole <= Limits::max()
                    ? std::optional(static_cast<std::int32_t>(*whole))
                    : std::nullopt;
     }

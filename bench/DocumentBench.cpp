@@ -1,0 +1,214 @@
+// How long a large document takes to open and to save, against reading and writing the same bytes; how much
+// memory it takes to open; and how the time of a merge grows with the number of tours.
+//
+// document [TOURS [SAMPLES]] measures documents of TOURS tours (10,000) with SAMPLES samples each (500).
+
+#include "bench/PeakMemory.h"
+#include "bench/RatioReport.h"
+#include "library/MyDocument.h"
+#include "platform/Log.h"
+#include "platform/WholeFile.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <optional>
+#include <unistd.h>
+
+namespace {
+
+using namespace ridelog;
+
+constexpr double promisedOpen = 8;
+constexpr double promisedSave = 3;
+constexpr double promisedMerge = 2.2;
+constexpr double promisedMemory = 4; // times the file
+
+void orExit(const std::optional<QString>& error)
+{
+    if (!error)
+        return;
+    std::fprintf(stderr, "%s\n", qPrintable(*error));
+    std::exit(1);
+}
+
+/// Rides that start an hour apart, the first of them `from` hours after the beginning.
+Tours makeTours(int from, int count, int samples)
+{
+    const auto start = CalendarDate::fromFields(2001, 1, 1, 8, 0, 0, QTimeZone("Europe/Berlin"));
+    Tours tours;
+    tours.reserve(static_cast<std::size_t>(count));
+    std::uint32_t random = 1;
+    for (int i = 0; i < count; ++i) {
+        TourDictionary dictionary{.type = QStringLiteral("Bike"),
+                                  .recordOffsetDD = 1005,
+                                  .hour = 8,
+                                  .min = 0,
+                                  .month = 1,
+                                  .day = 1,
+                                  .distanceAtStart = 1200,
+                                  .altitudeAtStart = 400,
+                                  .pulseAtStart = 90,
+                                  .tourData = {},
+                                  .otherEntries = {}};
+        dictionary.tourData.reserve(static_cast<std::size_t>(samples));
+        for (int sample = 0; sample < samples; ++sample) {
+            random = random * 1664525U + 1013904223U;
+            dictionary.tourData.push_back(
+                {.temperature = 18,
+                 .cadence = 80,
+                 .pulseChange = static_cast<std::int16_t>((random >> 28) - 7),
+                 .altitudeChange = static_cast<std::int16_t>((random >> 20 & 15) - 7),
+                 .distance = static_cast<std::int32_t>(random >> 10 & 15) * 10});
+        }
+        auto tour = OdoTour::initWithOdoDataTourDict(std::move(dictionary), start);
+        tour->setDate(start.addSecs(qint64{3600} * (from + i)));
+        tour->setTitle(QStringLiteral("Ride %1").arg(from + i));
+        tours.push_back(std::move(tour));
+    }
+    return tours;
+}
+
+struct Workload {
+    QTemporaryDir folder;
+    QString path;
+    QByteArray bytes;
+    Tours first;  ///< half of the tours of each list
+    Tours second; ///< the other half
+};
+
+void readFile(benchmark::State& state, const Workload& load)
+{
+    for (auto _ : state) {
+        QFile file(load.path);
+        if (!file.open(QIODevice::ReadOnly))
+            std::exit(1);
+        const auto bytes = file.readAll();
+        benchmark::DoNotOptimize(bytes.constData());
+    }
+}
+
+void openDocument(benchmark::State& state, const Workload& load)
+{
+    for (auto _ : state) {
+        auto document = std::make_unique<MyDocument>();
+        orExit(document->open(load.path));
+        benchmark::DoNotOptimize(document->toursArray().data());
+        state.PauseTiming();
+        document.reset();
+        state.ResumeTiming();
+    }
+}
+
+void writeFile(benchmark::State& state, const Workload& load)
+{
+    const auto path = QFile::encodeName(load.folder.filePath(QStringLiteral("plain")));
+    for (auto _ : state) {
+        const int file = ::open(path.constData(), O_CREAT | O_TRUNC | O_WRONLY, 0600);
+        const auto size = static_cast<std::size_t>(load.bytes.size());
+        if (file < 0 || ::write(file, load.bytes.constData(), size) != load.bytes.size() ||
+            ::fsync(file) != 0)
+            std::exit(1);
+        ::close(file);
+        state.PauseTiming();
+        ::unlink(path.constData());
+        state.ResumeTiming();
+    }
+}
+
+void saveDocument(benchmark::State& state, const Workload& load)
+{
+    MyDocument document;
+    orExit(document.open(load.path));
+    for (auto _ : state)
+        orExit(document.save());
+}
+
+/// As many tours into as many.
+void merge(benchmark::State& state, const Tours& present, const Tours& incoming)
+{
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto document = std::make_unique<MyDocument>();
+        document->setToursArray(present);
+        state.ResumeTiming();
+        if (document->addNewToursFromArray(incoming) != incoming.size())
+            std::exit(1);
+        state.PauseTiming();
+        document.reset();
+        state.ResumeTiming();
+    }
+}
+
+int positiveWord(int argc, char** argv, int index, int otherwise)
+{
+    const int number = index < argc ? std::atoi(argv[index]) : otherwise;
+    if (number > 0)
+        return number;
+    std::fprintf(stderr, "usage: document [TOURS [SAMPLES]]\n");
+    std::exit(2);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    setLogLevel(LogLevel::none);
+    RatioReport report(argc, argv);
+    const int tours = positiveWord(argc, argv, 1, 10'000);
+    const int samples = positiveWord(argc, argv, 2, 500);
+
+    Workload load;
+    load.path = load.folder.filePath(QStringLiteral("tours.ridelog"));
+    {
+        MyDocument document;
+        document.setToursArray(makeTours(0, tours, samples));
+        orExit(document.saveAs(load.path));
+    }
+    const PeakMemory memory;
+    {
+        MyDocument document;
+        orExit(document.open(load.path));
+    }
+    const auto risen = static_cast<double>(memory.risen());
+    load.bytes = [&] {
+        QFile file(load.path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }();
+    const auto memoryRatio = risen / static_cast<double>(load.bytes.size());
+    std::printf("%d tours of %d samples: %.1f MB; memory for opening it: %.2f x the file (at most %.0f)\n",
+                tours, samples, static_cast<double>(load.bytes.size()) / 1e6, memoryRatio, promisedMemory);
+
+    const auto present = makeTours(0, tours, samples);
+    const auto incoming = makeTours(tours, tours, samples);
+    const Tours halfPresent(present.begin(), present.begin() + tours / 2);
+    const Tours halfIncoming(incoming.begin(), incoming.begin() + tours / 2);
+
+    const auto measure = [](const char* name, auto&&... arguments) {
+        benchmark::RegisterBenchmark(name, std::forward<decltype(arguments)>(arguments)...)
+            ->Unit(benchmark::kMillisecond)
+            ->UseRealTime()
+            ->Repetitions(7)
+            ->ReportAggregatesOnly();
+    };
+    measure("ReadFile", [&](benchmark::State& state) { readFile(state, load); });
+    measure("Open", [&](benchmark::State& state) { openDocument(state, load); });
+    measure("WriteFile", [&](benchmark::State& state) { writeFile(state, load); });
+    measure("Save", [&](benchmark::State& state) { saveDocument(state, load); });
+    measure("MergeHalf", [&](benchmark::State& state) { merge(state, halfPresent, halfIncoming); });
+    measure("Merge", [&](benchmark::State& state) { merge(state, present, incoming); });
+    report.run();
+
+    const auto open = report.ratioOf("Open", "ReadFile", promisedOpen);
+    const auto save = report.ratioOf("Save", "WriteFile", promisedSave);
+    const auto merged = report.ratioOf("Merge", "MergeHalf", promisedMerge);
+    return open <= promisedOpen && save <= promisedSave && merged <= promisedMerge &&
+                   memoryRatio <= promisedMemory
+               ? 0
+               : 1;
+}
