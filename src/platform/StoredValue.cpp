@@ -1,6 +1,7 @@
 #include "platform/StoredValue.h"
 
 #include "platform/CalendarDate.h"
+#include "platform/TypedStreamReader.h"
 
 #include <QLocale>
 
@@ -45,6 +46,16 @@ QString joined(const QVariant& stored)
 {
     return stored.metaType().id() == QMetaType::QStringList ? stored.toStringList().join(u',')
                                                             : stored.toString();
+}
+
+/// The older application kept a colour as an archive of one object.
+std::optional<ColourComponents> archivedColour(const QByteArray& archive)
+{
+    TypedStreamReader reader(archive);
+    const auto colour = reader.readObject().toColour();
+    if (!colour || reader.failed())
+        return {};
+    return ColourComponents{colour->red, colour->green, colour->blue, colour->alpha};
 }
 
 } // namespace
@@ -158,6 +169,8 @@ std::optional<QDateTime> toDate(const QVariant& stored)
 
 std::optional<ColourComponents> toColour(const QVariant& stored)
 {
+    if (stored.metaType().id() == QMetaType::QByteArray)
+        return archivedColour(stored.toByteArray());
     return ColourComponents::fromText(joined(stored));
 }
 

@@ -32,6 +32,7 @@ std::optional<QStringList> toTextList(const QVariant& stored);
 std::optional<QList<int>> toIntegerList(const QVariant& stored);
 /// ISO 8601; the time zone has the fixed offset that is stored, or is the local one if there is none.
 std::optional<QDateTime> toDate(const QVariant& stored);
+/// Of a text, or of the archive in which the older application kept a colour.
 std::optional<ColourComponents> toColour(const QVariant& stored);
 
 } // namespace ridelog::StoredValue

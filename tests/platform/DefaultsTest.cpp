@@ -1,5 +1,6 @@
 #include "platform/Defaults.h"
 
+#include "tests/support/Archives.h"
 #include "tests/support/Dates.h"
 #include "tests/support/LogCapture.h"
 
@@ -197,6 +198,26 @@ TEST_F(DefaultsTest, UnreadableListsAndDatesFallBack)
     EXPECT_EQ(defaults.doubleForKey(QStringLiteral("float")), 1e39);
     EXPECT_EQ(defaults.textForKey(QStringLiteral("text")), QStringLiteral("c"));
     EXPECT_EQ(defaults.textListForKey(QStringLiteral("text"))->size(), 2);
+}
+
+TEST_F(DefaultsTest, ColoursOfTheOlderApplicationAreRead)
+{
+    const auto archived = written([](TypedStreamWriter& out) {
+        out.beginObject(ArchiveClasses::colour);
+        out.group("c");
+        out.putByte(1); // calibrated red, green, blue
+        out.group("ffff");
+        for (const float part : {0.25F, 1.0F, 0.0F, 0.5F})
+            out.putFloat(part);
+        out.endObject();
+    });
+    Defaults defaults(path);
+    defaults.setValue(key, archived);
+    EXPECT_TRUE(defaults.synchronize());
+    EXPECT_EQ(Defaults(path).colourForKey(key), (ColourComponents{0.25, 1, 0, 0.5}));
+    defaults.registerDefaults({{key, ColourComponents{1, 0, 0, 1}}});
+    defaults.setValue(key, archived.first(40));
+    EXPECT_EQ(defaults.colourForKey(key), (ColourComponents{1, 0, 0, 1}));
 }
 
 TEST_F(DefaultsTest, OddKeysComeBack)
