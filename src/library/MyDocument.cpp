@@ -16,9 +16,8 @@ namespace {
 const QString generalDataKey = QStringLiteral("generalData");
 const QString toursArrayKey = QStringLiteral("toursArray");
 
-/// Bytes that one tour takes beside its samples, and one sample: about.
-constexpr std::size_t usualTourSize = 512;
-constexpr std::size_t usualSampleSize = 28;
+/// A document of five million samples need not stand in memory twice: it is passed on in such pieces.
+constexpr qsizetype pieceSize = 1 << 20;
 
 void addTo(GeneralData& numbers, const QString& key, const ArchiveObject& value,
            std::vector<std::pair<QString, ArchiveObject>>& otherEntries)
@@ -29,6 +28,14 @@ void addTo(GeneralData& numbers, const QString& key, const ArchiveObject& value,
         numbers.insert(key, *whole);
     else
         otherEntries.emplace_back(key, value);
+}
+
+void writeEntries(TypedStreamWriter& writer, const std::vector<std::pair<QString, ArchiveObject>>& entries)
+{
+    for (const auto& [key, value] : entries) {
+        writer.writeConstant(key);
+        writer.writeObject(value);
+    }
 }
 
 } // namespace
@@ -115,12 +122,14 @@ bool MyDocument::isDocument(QByteArrayView firstBytes)
 
 QByteArray MyDocument::dataRepresentationOfType(const QString& /*type*/) const
 {
-    std::size_t size = 4096;
-    for (const auto& tour : _toursArray)
-        size += usualTourSize + tour->data().size() * usualSampleSize;
+    QByteArray all;
+    write([&all](QByteArrayView bytes) { all += bytes; });
+    return all;
+}
 
+void MyDocument::write(const ByteSink& sink) const
+{
     TypedStreamWriter writer;
-    writer.reserve(static_cast<qsizetype>(size));
     writer.beginDictionary(static_cast<qsizetype>(2 + _otherEntries.size()));
 
     writer.writeConstant(generalDataKey);
@@ -130,24 +139,23 @@ QByteArray MyDocument::dataRepresentationOfType(const QString& /*type*/) const
         writer.writeConstant(entry.key());
         writer.writeNumber(ArchiveNumber(*entry));
     }
-    for (const auto& [key, value] : otherEntries) {
-        writer.writeConstant(key);
-        writer.writeObject(value);
-    }
+    writeEntries(writer, otherEntries);
     writer.endObject();
 
     writer.writeConstant(toursArrayKey);
     writer.beginArray(static_cast<qsizetype>(_toursArray.size()));
-    for (const auto& tour : _toursArray)
+    for (const auto& tour : _toursArray) {
         tour->encodeWithCoder(writer);
-    writer.endObject();
-
-    for (const auto& [key, value] : _otherEntries) {
-        writer.writeConstant(key);
-        writer.writeObject(value);
+        if (writer.bytes().size() < pieceSize)
+            continue;
+        sink(writer.bytes());
+        writer.forgetBytes();
     }
     writer.endObject();
-    return std::move(writer).bytes();
+
+    writeEntries(writer, _otherEntries);
+    writer.endObject();
+    sink(writer.bytes());
 }
 
 bool MyDocument::loadDataRepresentation(const QByteArray& data, const QString& ofType, const QDateTime& now)

@@ -122,6 +122,9 @@ private:
     };
     struct Content;
 
+    /// Passes the stored form on in pieces.
+    void write(const ByteSink& sink) const;
+    std::optional<QString> writeTo(DocumentFile& file);
     std::optional<QString> load(const QByteArray& data, const QString& type, const QDateTime& now);
     Import mergeDump(const OdoData& dump);
     void appendTours(const Tours& tours);

@@ -54,8 +54,8 @@ void MyDocument::appendTours(const Tours& tours)
     for (const auto& tour : tours) {
         tour->setUndo(&_undoManager);
         tour->setChanges(&_tourChanges);
+        _toursArray.push_back(tour);
     }
-    _toursArray.insert(_toursArray.end(), tours.begin(), tours.end());
     Q_EMIT toursArrayChanged();
 }
 

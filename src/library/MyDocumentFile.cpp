@@ -45,10 +45,7 @@ std::optional<QString> MyDocument::save()
         return unsaved();
     if (isReadOnly())
         return _readOnlyReason;
-    if (const auto error = _file->write(dataRepresentationOfType(typeName)))
-        return error;
-    _undoManager.setClean();
-    return std::nullopt;
+    return writeTo(*_file);
 }
 
 std::optional<QString> MyDocument::saveAs(const QString& path)
@@ -59,10 +56,17 @@ std::optional<QString> MyDocument::saveAs(const QString& path)
     }
     DocumentFile file(path);
     file.acceptChangesOfOthers();
-    if (const auto error = file.write(dataRepresentationOfType(typeName)))
+    if (const auto error = writeTo(file))
         return error;
     _file = std::move(file);
     _readOnlyReason.clear();
+    return std::nullopt;
+}
+
+std::optional<QString> MyDocument::writeTo(DocumentFile& file)
+{
+    if (const auto error = file.write([this](const ByteSink& sink) { write(sink); }))
+        return error;
     _undoManager.setClean();
     return std::nullopt;
 }

@@ -1,52 +1,70 @@
 #include "library/TourMerge.h"
 
-#include <algorithm>
-#include <unordered_map>
+#include <QHash>
+
+#include <utility>
 
 namespace ridelog {
 namespace {
 
-bool haveSameSamples(const OdoTour& left, const OdoTour& right)
+bool areSame(const OdoTour& one, const OdoTour& other)
 {
-    const auto& one = left.tourDataDict();
-    const auto& other = right.tourDataDict();
-    return one && other && one->tourData == other->tourData;
+    if (one.isEqual(&other))
+        return true;
+    const auto& left = one.tourDataDict();
+    const auto& right = other.tourDataDict();
+    return left && right && left->tourData == right->tourData;
 }
 
-/// Tours by the instant of their start: only those that start together need a closer look.
-class ToursByStart {
+qint64 startOf(const OdoTour& tour)
+{
+    return tour.date().toMSecsSinceEpoch();
+}
+
+/// The tours of a list by the instant at which they start: only those that start together need a closer look.
+/// They are told by their place in the list, counted from 1; 0 is none.
+class PlacesByStart {
 public:
-    explicit ToursByStart(std::size_t count) { _tours.reserve(count); }
-
-    void add(const OdoTour& tour) { _tours.emplace(instantOf(tour), &tour); }
-
-    bool contains(const OdoTour& tour) const
+    explicit PlacesByStart(const Tours& tours)
     {
-        const auto [first, last] = _tours.equal_range(instantOf(tour));
-        return std::any_of(first, last, [&tour](const auto& entry) {
-            return entry.second->isEqual(&tour) || haveSameSamples(*entry.second, tour);
-        });
+        _last.reserve(static_cast<qsizetype>(tours.size()));
+        _before.reserve(tours.size());
+        for (const auto& tour : tours)
+            _before.push_back(std::exchange(_last[startOf(*tour)], _before.size() + 1));
     }
 
-private:
-    static qint64 instantOf(const OdoTour& tour) { return tour.date().toMSecsSinceEpoch(); }
+    /// The last tour that starts then.
+    std::size_t last(qint64 start) const { return _last.value(start); }
+    /// The tour before this one that starts together with it.
+    std::size_t before(std::size_t place) const { return _before[place - 1]; }
 
-    std::unordered_multimap<qint64, const OdoTour*> _tours;
+private:
+    QHash<qint64, std::size_t> _last;
+    std::vector<std::size_t> _before;
 };
 
 } // namespace
 
 Tours toursNotIn(const Tours& present, const Tours& incoming)
 {
-    ToursByStart known(present.size() + incoming.size());
-    for (const auto& tour : present)
-        known.add(*tour);
+    const PlacesByStart places(incoming);
+    const auto at = [&incoming](std::size_t place) -> const auto&
+    {
+        return incoming[place - 1];
+    };
+
+    std::vector<bool> isKnown(incoming.size() + 1);
+    for (const auto& tour : present) {
+        for (auto place = places.last(startOf(*tour)); place != 0; place = places.before(place))
+            isKnown[place] = isKnown[place] || areSame(*tour, *at(place));
+    }
     Tours added;
-    for (const auto& tour : incoming) {
-        if (known.contains(*tour))
-            continue;
-        known.add(*tour);
-        added.push_back(tour);
+    added.reserve(incoming.size());
+    for (std::size_t place = 1; place <= incoming.size(); ++place) {
+        for (auto other = places.before(place); other != 0 && !isKnown[place]; other = places.before(other))
+            isKnown[place] = !isKnown[other] && areSame(*at(other), *at(place));
+        if (!isKnown[place])
+            added.push_back(at(place));
     }
     return added;
 }

@@ -15,6 +15,12 @@ Q_LOGGING_CATEGORY(lcTour, "ridelog.tour")
 OdoTour::OdoTour() = default;
 OdoTour::~OdoTour() = default;
 
+std::shared_ptr<OdoTour> OdoTour::make()
+{
+    struct Tour final : OdoTour {};
+    return std::make_shared<Tour>();
+}
+
 QString OdoTour::untitled()
 {
     return QStringLiteral("n/a");
@@ -23,7 +29,7 @@ QString OdoTour::untitled()
 std::shared_ptr<OdoTour> OdoTour::initWithOdoDataTourDict(std::optional<TourDictionary> tourDict,
                                                           const QDateTime& now)
 {
-    std::shared_ptr<OdoTour> tour(new OdoTour);
+    auto tour = make();
     tour->_tourDataDict = std::move(tourDict);
     tour->setTitle(untitled());
     tour->setTourDescription(untitled());

@@ -145,6 +145,7 @@ public:
 
 private:
     OdoTour();
+    static std::shared_ptr<OdoTour> make();
 
     template <typename Change>
     void registerUndo(const QString& actionName, Change&& change);
@@ -163,10 +164,10 @@ private:
     // The document's; tours live in its undo steps, so they hold neither.
     QPointer<UndoManager> _undo;
     QPointer<TourChanges> _changes;
+    QDateTime _date; // beside them: a merge asks thousands of tours for these
     std::optional<TourDictionary> _tourDataDict;
     QString _title;
     StyledText _description;
-    QDateTime _date;
     bool _removed = false;
     bool _dataIsBigEndian = false;
     std::vector<SeriesEntry> _data;

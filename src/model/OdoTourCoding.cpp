@@ -110,7 +110,7 @@ std::shared_ptr<OdoTour> OdoTour::initWithCoder(TypedStreamReader& reader, const
         return nullptr;
     }
 
-    std::shared_ptr<OdoTour> tour(new OdoTour);
+    auto tour = make();
     tour->_title = untitled();
     tour->_description = StyledText(untitled());
     tour->_dataIsBigEndian = true;

@@ -1,7 +1,5 @@
 #include "platform/DocumentFile.h"
 
-#include "platform/WholeFile.h"
-
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
@@ -72,7 +70,7 @@ bool DocumentFile::wasChangedByOthers() const
     return current && current != _known;
 }
 
-std::optional<QString> DocumentFile::write(const QByteArray& bytes)
+std::optional<QString> DocumentFile::write(const ByteSource& content)
 {
     if (const auto owner = lock())
         return owner;
@@ -82,7 +80,7 @@ std::optional<QString> DocumentFile::write(const QByteArray& bytes)
         if (const auto error = keepUnderName(_target, _target + u'~'))
             return QStringLiteral("no backup can be kept: ") + *error;
     }
-    const auto error = writeWholeFile(_target, bytes);
+    const auto error = writeWholeFile(_target, content);
     _known = currentState();
     _backedUp = _backedUp || !error;
     return error;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/WholeFile.h"
+
 #include <QByteArray>
 #include <QLockFile>
 #include <QString>
@@ -40,7 +42,7 @@ public:
 
     /// Writes the file (see writeWholeFile). Before the first time, what was there is kept beside it under
     /// its name with a "~" behind it. Refused when the file is locked or was changed by others.
-    std::optional<QString> write(const QByteArray& bytes);
+    std::optional<QString> write(const ByteSource& content);
 
 private:
     /// Tells two states of a file apart.

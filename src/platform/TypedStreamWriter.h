@@ -57,6 +57,9 @@ public:
     void reserve(qsizetype bytes) { _bytes.reserve(bytes); }
     const QByteArray& bytes() const& { return _bytes; }
     QByteArray bytes() && { return std::move(_bytes); }
+    /// Begins anew behind `bytes()`, which the caller has passed on: so an archive that is on its way to a
+    /// file never stands in memory as a whole. Only between objects of a list or dictionary, or their groups.
+    void forgetBytes() { _bytes.resize(0); }
 
     // Groups and values
 

@@ -75,16 +75,17 @@ public:
         return ::fchmod(_descriptor, old.st_mode & 07777) == 0;
     }
 
-    bool write(QByteArrayView bytes)
+    /// Writes all that the content gives and forces it to the disk. None, or what went wrong.
+    std::optional<QString> write(const ByteSource& content)
     {
-        while (!bytes.isEmpty()) {
-            const auto written = uninterrupted(
-                [&] { return ::write(_descriptor, bytes.data(), static_cast<std::size_t>(bytes.size())); });
-            if (written < 0)
-                return false;
-            bytes = bytes.sliced(written);
-        }
-        return uninterrupted([&] { return ::fsync(_descriptor); }) == 0;
+        std::optional<QString> error;
+        content([&](QByteArrayView bytes) {
+            if (!error && !write(bytes))
+                error = systemError();
+        });
+        if (!error && uninterrupted([&] { return ::fsync(_descriptor); }) != 0)
+            error = systemError();
+        return error;
     }
 
     bool giveName()
@@ -110,6 +111,18 @@ public:
     }
 
 private:
+    bool write(QByteArrayView bytes)
+    {
+        while (!bytes.isEmpty()) {
+            const auto written = uninterrupted(
+                [&] { return ::write(_descriptor, bytes.data(), static_cast<std::size_t>(bytes.size())); });
+            if (written < 0)
+                return false;
+            bytes = bytes.sliced(written);
+        }
+        return true;
+    }
+
     QByteArray _folder;
     QByteArray _name; ///< empty while it has none
     int _descriptor = -1;
@@ -132,6 +145,11 @@ std::optional<QString> syncFolder(const QString& folder)
 
 std::optional<QString> writeWholeFile(const QString& path, QByteArrayView bytes)
 {
+    return writeWholeFile(path, [bytes](const ByteSink& sink) { sink(bytes); });
+}
+
+std::optional<QString> writeWholeFile(const QString& path, const ByteSource& content)
+{
     // The new file takes the place of the old one, which must not happen to a device, a pipe or a broken
     // link.
     const QFileInfo info(path);
@@ -151,8 +169,10 @@ std::optional<QString> writeWholeFile(const QString& path, QByteArrayView bytes)
         const bool mayTryAgain = kind == NewFile::Kind::unnamed;
         if (!file.isOpen() && mayTryAgain)
             continue;
-        if (!file.isOpen() || (replaces && !file.takeAttributesOf(old)) || !file.write(bytes))
+        if (!file.isOpen() || (replaces && !file.takeAttributesOf(old)))
             return systemError();
+        if (const auto error = file.write(content))
+            return error;
         if (!file.giveName() && mayTryAgain)
             continue;
         if (!file.putInPlaceOf(name))

@@ -3,16 +3,23 @@
 #include <QByteArrayView>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 namespace ridelog {
+
+/// Where bytes go, one piece after another.
+using ByteSink = std::function<void(QByteArrayView)>;
+using ByteSource = std::function<void(const ByteSink&)>;
 
 /// Writes a file whole or not at all: to a new file in the same folder, forced to the disk, which then takes
 /// the old one's place and its permissions. Links are followed; only regular files that may be written are
 /// replaced.
 ///
-/// Answers none when the bytes are on the disk, else what went wrong; the file of that name is then the old
-/// one, or there is none. Only when the disk fails after the last step, it may be the new one.
+/// `content` gives the bytes to its sink, the same each time it is called. Answers none when they are on the
+/// disk, else what went wrong; the file of that name is then the old one, or there is none. Only when the
+/// disk fails after the last step, it may be the new one.
+std::optional<QString> writeWholeFile(const QString& path, const ByteSource& content);
 std::optional<QString> writeWholeFile(const QString& path, QByteArrayView bytes);
 
 /// Keeps what a file holds under another name in the same folder, whole or not at all; what had that name
