@@ -53,6 +53,10 @@ inline const QString checkForUpdateAfterDays = QStringLiteral("checkForUpdateAft
 inline const QString automaticCheck = QStringLiteral("automaticCheck");                   ///< bool
 inline const QString checkedForUpdateOn = QStringLiteral("checkedForUpdateOn"); ///< date of the last check
 
+// Documents
+inline const QString recentDocuments =
+    QStringLiteral("recentDocuments"); ///< list of texts: paths, newest first
+
 // Everywhere
 inline const QString useMiles = QStringLiteral("useMiles"); ///< bool: show miles, mph and feet
 

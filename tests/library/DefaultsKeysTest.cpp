@@ -80,6 +80,7 @@ TEST_F(DefaultsKeysTest, NotRegistered)
         {DefaultsKeys::pictureHeight, "pictureHeight"},
         {DefaultsKeys::odoStatDate, "odoStatDate"},
         {DefaultsKeys::checkedForUpdateOn, "checkedForUpdateOn"},
+        {DefaultsKeys::recentDocuments, "recentDocuments"},
         {DefaultsKeys::mainWindowFrame, "MainWindow"},
         {DefaultsKeys::statWindowFrame, "statWindow"},
         {DefaultsKeys::preferencesPanelFrame, "PreferencesPanel"},
