@@ -1,5 +1,5 @@
-// Any bytes as a document: they are refused, and then nothing was kept of them, or opened; then the document is
-// stored, comes back and is stored as the same again, and every value of its tours can be asked for.
+// Any bytes as a document: they are refused, and then nothing was kept of them, or opened; then the document
+// is stored, comes back and is stored as the same again, and every value of its tours can be asked for.
 
 #include "library/MyDocument.h"
 #include "platform/Log.h"
