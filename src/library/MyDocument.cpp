@@ -130,7 +130,7 @@ QByteArray MyDocument::dataRepresentationOfType(const QString& /*type*/) const
 void MyDocument::write(const ByteSink& sink) const
 {
     TypedStreamWriter writer;
-    writer.beginDictionary(static_cast<qsizetype>(2 + _otherEntries.size()));
+    writer.beginDictionary(2 + static_cast<qsizetype>(_otherEntries.size()));
 
     writer.writeConstant(generalDataKey);
     const auto& [numbers, otherEntries] = _generalData;

@@ -81,7 +81,7 @@ MyDocument::Import MyDocument::importFile(const QString& path, const QDateTime& 
 {
     const UndoGroup oneStep(_undoManager);
     const auto dump = OdoData::initWithFile(path, now);
-    const auto import = mergeDump(dump);
+    auto import = mergeDump(dump);
     if (import.refusal.isEmpty()) {
         replaceGeneralData({dump.generalDataDict(), {}});
         _undoManager.setActionName(addingTours(import.added));

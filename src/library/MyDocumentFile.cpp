@@ -29,9 +29,9 @@ std::optional<QString> MyDocument::open(const QString& path, Missing missing, co
     const auto owner = file.lock();
     if (missing == Missing::refuse || QFileInfo::exists(path)) {
         QByteArray bytes;
-        if (const auto error = file.read(bytes, TypedStreamReader::largestArchive))
+        if (auto error = file.read(bytes, TypedStreamReader::largestArchive))
             return error;
-        if (const auto error = load(bytes, typeName, now))
+        if (auto error = load(bytes, typeName, now))
             return error;
     }
     _readOnlyReason = owner.value_or(QString());
@@ -56,7 +56,7 @@ std::optional<QString> MyDocument::saveAs(const QString& path)
     }
     DocumentFile file(path);
     file.acceptChangesOfOthers();
-    if (const auto error = writeTo(file))
+    if (auto error = writeTo(file))
         return error;
     _file = std::move(file);
     _readOnlyReason.clear();
@@ -65,7 +65,7 @@ std::optional<QString> MyDocument::saveAs(const QString& path)
 
 std::optional<QString> MyDocument::writeTo(DocumentFile& file)
 {
-    if (const auto error = file.write([this](const ByteSink& sink) { write(sink); }))
+    if (auto error = file.write([this](const ByteSink& sink) { write(sink); }))
         return error;
     _undoManager.setClean();
     return std::nullopt;
@@ -76,7 +76,7 @@ std::optional<QString> MyDocument::revert(const QDateTime& now)
     if (!_file)
         return unsaved();
     QByteArray bytes;
-    if (const auto error = _file->read(bytes, TypedStreamReader::largestArchive))
+    if (auto error = _file->read(bytes, TypedStreamReader::largestArchive))
         return error;
     return load(bytes, typeName, now);
 }
