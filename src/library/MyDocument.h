@@ -71,6 +71,8 @@ public:
     /// when the document is saved.
     std::optional<QString> open(const QString& path, Missing missing = Missing::refuse,
                                 const QDateTime& now = CalendarDate::now());
+    /// Reads the file, whoever has it open, and leaves it to others: the document is read-only.
+    std::optional<QString> openForReading(const QString& path, const QDateTime& now = CalendarDate::now());
     /// Refused without a file, when the document is read-only, and when another program has changed the file
     /// meanwhile.
     std::optional<QString> save();
@@ -125,7 +127,7 @@ private:
     /// Passes the stored form on in pieces.
     void write(const ByteSink& sink) const;
     std::optional<QString> writeTo(DocumentFile& file);
-    std::optional<QString> load(const QByteArray& data, const QString& type, const QDateTime& now);
+    std::optional<QString> load(DocumentFile& file, const QDateTime& now);
     Import mergeDump(const OdoData& dump);
     void appendTours(const Tours& tours);
     void takeOutTours(const Tours& tours);

@@ -13,9 +13,12 @@ QString unsaved()
 
 } // namespace
 
-std::optional<QString> MyDocument::load(const QByteArray& data, const QString& type, const QDateTime& now)
+std::optional<QString> MyDocument::load(DocumentFile& file, const QDateTime& now)
 {
-    if (!loadDataRepresentation(data, type, now))
+    QByteArray bytes;
+    if (auto error = file.read(bytes, TypedStreamReader::largestArchive))
+        return error;
+    if (!loadDataRepresentation(bytes, typeName, now))
         return _refusal;
     _undoManager.removeAllActions();
     _undoManager.setClean();
@@ -28,13 +31,20 @@ std::optional<QString> MyDocument::open(const QString& path, Missing missing, co
     // Locked before it is read: nobody changes what was read.
     const auto owner = file.lock();
     if (missing == Missing::refuse || QFileInfo::exists(path)) {
-        QByteArray bytes;
-        if (auto error = file.read(bytes, TypedStreamReader::largestArchive))
-            return error;
-        if (auto error = load(bytes, typeName, now))
+        if (auto error = load(file, now))
             return error;
     }
     _readOnlyReason = owner.value_or(QString());
+    _file = std::move(file);
+    return std::nullopt;
+}
+
+std::optional<QString> MyDocument::openForReading(const QString& path, const QDateTime& now)
+{
+    DocumentFile file(path);
+    if (auto error = load(file, now))
+        return error;
+    _readOnlyReason = QStringLiteral("it was opened for reading only");
     _file = std::move(file);
     return std::nullopt;
 }
@@ -75,10 +85,7 @@ std::optional<QString> MyDocument::revert(const QDateTime& now)
 {
     if (!_file)
         return unsaved();
-    QByteArray bytes;
-    if (auto error = _file->read(bytes, TypedStreamReader::largestArchive))
-        return error;
-    return load(bytes, typeName, now);
+    return load(*_file, now);
 }
 
 void MyDocument::acceptChangesOfOthers()

@@ -214,6 +214,20 @@ TEST(MyDocument, DocumentsOfAllVersionsAreUpgraded)
     }
 }
 
+TEST(MyDocument, OpenedForReadingItKeepsNobodyFromWriting)
+{
+    const TemporaryFolder folder;
+    const auto path = folder.write("one.ridelog", bytesOf(oneTour));
+    MyDocument reader;
+    ASSERT_EQ(reader.openForReading(path), std::nullopt);
+    EXPECT_EQ(reader.toursArray().size(), 1U);
+    EXPECT_TRUE(reader.save().has_value());
+    MyDocument writer;
+    ASSERT_EQ(writer.open(path), std::nullopt);
+    EXPECT_FALSE(writer.isReadOnly());
+    EXPECT_EQ(reader.openForReading(path), std::nullopt) << "also while it is open elsewhere";
+}
+
 TEST(MyDocument, ToursAreRemovedAndRestoredInOneStepEach)
 {
     MyDocument document;
