@@ -1,7 +1,11 @@
 #include "cli/Command.h"
 
 #include "cli/InspectCommand.h"
+#include "cli/ListCommand.h"
 #include "cli/MakeDumpCommand.h"
+#include "cli/ShowCommand.h"
+#include "cli/Wording.h"
+#include "platform/JsonWriter.h"
 
 #include <QFile>
 
@@ -10,18 +14,7 @@
 namespace ridelog {
 namespace {
 
-/// The text without anything that would end its line or move a terminal's cursor.
-QString printable(const QString& text)
-{
-    QString line;
-    for (const auto character : text) {
-        if (character.category() == QChar::Other_Control)
-            line += QStringLiteral("\\x%1").arg(character.unicode(), 2, 16, QLatin1Char('0'));
-        else
-            line += character;
-    }
-    return line;
-}
+const QString standardOutput = QStringLiteral("standard output");
 
 void complain(const QString& message)
 {
@@ -36,6 +29,8 @@ const std::vector<std::unique_ptr<const Command>>& allCommands()
     static const auto commands = [] {
         std::vector<std::unique_ptr<const Command>> list;
         list.push_back(std::make_unique<InspectCommand>());
+        list.push_back(std::make_unique<ListCommand>());
+        list.push_back(std::make_unique<ShowCommand>());
         list.push_back(std::make_unique<MakeDumpCommand>());
         return list;
     }();
@@ -70,7 +65,19 @@ ExitStatus print(const QString& text)
     QFile output;
     const auto bytes = text.toUtf8();
     if (!output.open(stdout, QIODevice::WriteOnly) || output.write(bytes) != bytes.size() || !output.flush())
-        return fail(QStringLiteral("standard output"), output.errorString());
+        return fail(standardOutput, output.errorString());
+    return ExitStatus::done;
+}
+
+ExitStatus printJson(const std::function<void(JsonWriter&)>& write)
+{
+    QFile output;
+    if (!output.open(stdout, QIODevice::WriteOnly))
+        return fail(standardOutput, output.errorString());
+    JsonWriter json(output);
+    write(json);
+    if (!json.finish() || !output.flush())
+        return fail(standardOutput, output.errorString());
     return ExitStatus::done;
 }
 

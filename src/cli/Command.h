@@ -6,12 +6,15 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
 QT_FORWARD_DECLARE_CLASS(QCommandLineParser)
 
 namespace ridelog {
+
+class JsonWriter;
 
 /// How a command ended, as the shell sees it.
 enum class ExitStatus {
@@ -64,5 +67,7 @@ ExitStatus fail(const QString& file, const QString& reason);
 
 /// Writes to standard output; what cannot be written is a failure.
 ExitStatus print(const QString& text);
+/// The same with the one JSON value that `write` writes.
+ExitStatus printJson(const std::function<void(JsonWriter&)>& write);
 
 } // namespace ridelog

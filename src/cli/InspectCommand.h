@@ -4,7 +4,7 @@
 
 namespace ridelog {
 
-/// Decodes a raw dump and shows its general data and tours.
+/// Shows all that a raw dump or a document holds, in its order.
 class InspectCommand final : public Command {
 public:
     QString name() const override;

@@ -1,5 +1,7 @@
 #include "cli/TextTable.h"
 
+#include "cli/Wording.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -9,7 +11,10 @@ TextTable::TextTable(QList<Column> columns) : _columns(std::move(columns)) {}
 
 void TextTable::addRow(const QStringList& cells)
 {
-    _rows.append(cells);
+    QStringList row;
+    for (const auto& cell : cells)
+        row.append(printable(cell));
+    _rows.append(row);
 }
 
 QString TextTable::text() const
@@ -22,17 +27,20 @@ QString TextTable::text() const
     if (std::ranges::any_of(titles, [](const auto& title) { return !title.isEmpty(); }))
         lines.prepend(titles);
 
+    QList<qsizetype> widths(_columns.size(), 0);
+    for (const auto& line : lines) {
+        for (qsizetype column = 0; column < _columns.size(); ++column)
+            widths[column] = std::max(widths[column], line.value(column).size());
+    }
+
     QString text;
     for (const auto& line : lines) {
         QString row;
         for (qsizetype column = 0; column < _columns.size(); ++column) {
-            qsizetype width = 0;
-            for (const auto& other : lines)
-                width = std::max(width, other.value(column).size());
             const auto cell = line.value(column);
-            row += QStringLiteral("  ");
-            row += _columns[column].align == Align::left ? cell.leftJustified(width)
-                                                         : cell.rightJustified(width);
+            row += QString(_columns[column].gap, u' ');
+            row += _columns[column].align == Align::left ? cell.leftJustified(widths[column])
+                                                         : cell.rightJustified(widths[column]);
         }
         while (row.endsWith(u' '))
             row.chop(1);

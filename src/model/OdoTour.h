@@ -71,6 +71,8 @@ public:
     /// Where each edit is told; undoing one is an edit as well.
     void setChanges(TourChanges* changes);
 
+    /// Title and description of a tour that has none.
+    static QString untitled();
     const QString& title() const { return _title; }
     void setTitle(const QString& title);
     const StyledText& tourDescription() const;
@@ -151,8 +153,6 @@ private:
     void registerUndo(const QString& actionName, Change&& change);
     void tellChange();
     void _convertDataFromBigEndian();
-    /// Title and description of a tour that has none.
-    static QString untitled();
 
     /// Builds the series and the first eight summary values in one pass over the samples.
     void calculateAllValues(const QDateTime& now);

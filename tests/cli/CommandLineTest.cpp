@@ -1,49 +1,14 @@
 // The command line as a shell sees it: both streams and the exit status.
 
+#include "tests/cli/CommandLine.h"
+
 #include "decode/DumpLayout.h"
 #include "simulator/RideGenerator.h"
-#include "tests/support/TemporaryFolder.h"
 
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 namespace ridelog {
 namespace {
-
-struct Outcome {
-    int status = -1;
-    QByteArray out;
-    QByteArray err;
-
-    QJsonObject json() const
-    {
-        QJsonParseError error;
-        const auto document = QJsonDocument::fromJson(out, &error);
-        EXPECT_EQ(error.error, QJsonParseError::NoError) << qPrintable(error.errorString());
-        return document.object();
-    }
-};
-
-class CommandLine : public testing::Test, protected TemporaryFolder {
-protected:
-    static Outcome run(const QString& command, const QStringList& more = {})
-    {
-        QProcess process;
-        auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("TZ"), QStringLiteral("Europe/Berlin"));
-        environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
-        process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(RIDELOG_CLI), command.split(u' ', Qt::SkipEmptyParts) + more);
-        EXPECT_TRUE(process.waitForFinished(30'000) && process.exitStatus() == QProcess::NormalExit);
-        return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-    }
-};
 
 const QString inspectAtYearsEnd = QStringLiteral("inspect --now 2007-12-31T23:59");
 
@@ -179,7 +144,7 @@ TEST_F(CommandLine, WrongWordsAreExplained)
     const std::pair<const char*, const char*> cases[]{
         {"", "a command is missing"},
         {"inspct x", "there is no command 'inspct'"},
-        {"inspect", "DUMP is missing"},
+        {"inspect", "FILE is missing"},
         {"inspect a b", "'b' is one word too many"},
         {"inspect --colour a", "Unknown option 'colour'"},
         {"inspect --log loud a", "--log takes none, errors or trace"},
@@ -188,6 +153,10 @@ TEST_F(CommandLine, WrongWordsAreExplained)
         {"inspect --now 2007-03-10 a", "--now takes a time like 2007-03-10T12:00:00"},
         {"inspect --series a", "--series and --raw go with --json"},
         {"inspect --help-all a", "Unknown option 'help-all'"},
+        {"list --raw a", "--series and --raw go with --json"},
+        {"show a", "TOUR is missing"},
+        {"show a first", "TOUR is a number or a start like 2007-03-10T08:00"},
+        {"show a 2007-02-30T08:00", "TOUR is a number or a start like 2007-03-10T08:00"},
         {"make-dump", "-o is missing"},
         {"make-dump --tours 677 -o x", "--tours takes a number from 0 to 676"},
         {"make-dump --tours many -o x", "--tours takes a number from 0 to 676"},
@@ -268,7 +237,7 @@ TEST_F(CommandLine, HelpAndVersion)
     EXPECT_TRUE(help.out.contains("inspect") && help.out.contains("make-dump"));
     const auto inspect = run(QStringLiteral("inspect --help"));
     EXPECT_EQ(inspect.status, 0);
-    EXPECT_TRUE(inspect.out.startsWith("Usage: ridelog-cli inspect DUMP [--json]") &&
+    EXPECT_TRUE(inspect.out.startsWith("Usage: ridelog-cli inspect FILE [--json]") &&
                 inspect.out.contains("--series"));
     EXPECT_TRUE(run(QStringLiteral("--version")).out.startsWith("ridelog-cli 0."));
 }

@@ -1,0 +1,65 @@
+#include "cli/TourSource.h"
+
+#include "decode/OdoData.h"
+#include "library/MyDocument.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace ridelog {
+namespace {
+
+/// Enough of a file to tell what it is.
+constexpr qint64 firstBytes = 64;
+
+std::vector<std::pair<QString, std::int32_t>> inOrderOfTheDevice(GeneralData numbers)
+{
+    std::vector<std::pair<QString, std::int32_t>> ordered;
+    for (const auto& field : DumpLayout::generalDataFields) {
+        const auto number = numbers.constFind(field.name.toString());
+        if (number == numbers.constEnd())
+            continue;
+        ordered.emplace_back(number.key(), *number);
+        numbers.erase(number);
+    }
+    for (auto number = numbers.constBegin(); number != numbers.constEnd(); ++number)
+        ordered.emplace_back(number.key(), *number);
+    return ordered;
+}
+
+TourSource readDocument(const QString& path, const QDateTime& now)
+{
+    MyDocument document;
+    if (const auto error = document.openForReading(path, now))
+        return {.kind = TourSource::Kind::document, .refusal = *error};
+    return {.kind = TourSource::Kind::document,
+            .generalData = inOrderOfTheDevice(document.generalData()),
+            .tours = document.toursArray()};
+}
+
+TourSource readDump(const QString& path, const QDateTime& now)
+{
+    const auto dump = OdoData::initWithFile(path, now);
+    return {.kind = TourSource::Kind::dump,
+            .generalData = inOrderOfTheDevice(dump.generalDataDict()),
+            .tours = dump.toursArray(),
+            .refusal = dump.refusal()};
+}
+
+} // namespace
+
+TourSource TourSource::read(const QString& path, const QDateTime& now)
+{
+    return holdsDocument(path) ? readDocument(path, now) : readDump(path, now);
+}
+
+bool TourSource::holdsDocument(const QString& path)
+{
+    // Opening a pipe or a device could wait for ever.
+    if (!QFileInfo(path).isFile())
+        return false;
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && MyDocument::isDocument(file.read(firstBytes));
+}
+
+} // namespace ridelog

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "format/ReadableUnits.h"
+#include "library/TourMerge.h"
+
+#include <QString>
+
+namespace ridelog {
+
+/// The tours for people, a line each, numbered from 1, and notes on what the table cannot say.
+QString tourTable(const Tours& tours, const ReadableUnits& units);
+
+/// What to say of a tour whose values are not yet made of all of its samples; empty for any other.
+QString noteOn(const OdoTour& tour);
+
+} // namespace ridelog
