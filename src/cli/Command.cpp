@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 
+#include "cli/ImportCommand.h"
 #include "cli/InspectCommand.h"
 #include "cli/ListCommand.h"
 #include "cli/MakeDumpCommand.h"
@@ -29,6 +30,7 @@ const std::vector<std::unique_ptr<const Command>>& allCommands()
     static const auto commands = [] {
         std::vector<std::unique_ptr<const Command>> list;
         list.push_back(std::make_unique<InspectCommand>());
+        list.push_back(std::make_unique<ImportCommand>());
         list.push_back(std::make_unique<ListCommand>());
         list.push_back(std::make_unique<ShowCommand>());
         list.push_back(std::make_unique<MakeDumpCommand>());

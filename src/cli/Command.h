@@ -38,6 +38,7 @@ public:
     struct Argument {
         QString name;
         QString description;
+        bool repeats = false; ///< may be given several times; only the last one may
     };
 
     virtual ~Command() = default;

@@ -16,7 +16,7 @@ QString programHelp()
 {
     QString text =
         QStringLiteral("Usage: %1 COMMAND [OPTIONS] ARGUMENTS\n\n"
-                       "Reads, shows and makes the tours of a cycle computer, without a window.\n\n"
+                       "Reads, keeps and shows the tours of a cycle computer, without a window.\n\n"
                        "Commands:\n")
             .arg(programName);
     for (const auto& command : allCommands())
@@ -99,6 +99,21 @@ std::optional<QDateTime> localTimeOf(const QString& text)
                                     time.second(), CalendarDate::localTimeZone());
 }
 
+/// What is wrong with the arguments that were given, if anything is.
+std::optional<QString> faultOf(const QStringList& given, const QList<Command::Argument>& wanted)
+{
+    for (qsizetype i = 0; i < wanted.size(); ++i) {
+        if (given.value(i).isEmpty())
+            return QStringLiteral("%1 is missing").arg(wanted[i].name);
+    }
+    const bool repeats = !wanted.isEmpty() && wanted.constLast().repeats;
+    if (repeats && given.contains(QString()))
+        return QStringLiteral("%1 is missing").arg(wanted.constLast().name);
+    if (!repeats && given.size() > wanted.size())
+        return QStringLiteral("'%1' is one word too many").arg(given[wanted.size()]);
+    return std::nullopt;
+}
+
 ExitStatus runCommand(const Command& command, const QStringList& words)
 {
     QCommandLineParser parser;
@@ -127,13 +142,8 @@ ExitStatus runCommand(const Command& command, const QStringList& words)
     }
 
     const auto arguments = parser.positionalArguments().mid(1);
-    const auto wanted = command.arguments();
-    for (qsizetype i = 0; i < wanted.size(); ++i) {
-        if (arguments.value(i).isEmpty())
-            return wrongWords(command, QStringLiteral("%1 is missing").arg(wanted[i].name));
-    }
-    if (arguments.size() > wanted.size())
-        return wrongWords(command, QStringLiteral("'%1' is one word too many").arg(arguments[wanted.size()]));
+    if (const auto fault = faultOf(arguments, command.arguments()))
+        return wrongWords(command, *fault);
 
     return command.execute({.options = parser,
                             .arguments = arguments,

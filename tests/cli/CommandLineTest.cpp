@@ -153,6 +153,8 @@ TEST_F(CommandLine, WrongWordsAreExplained)
         {"inspect --now 2007-03-10 a", "--now takes a time like 2007-03-10T12:00:00"},
         {"inspect --series a", "--series and --raw go with --json"},
         {"inspect --help-all a", "Unknown option 'help-all'"},
+        {"import --into x", "DUMP is missing"},
+        {"import a b", "--into is missing"},
         {"list --raw a", "--series and --raw go with --json"},
         {"show a", "TOUR is missing"},
         {"show a first", "TOUR is a number or a start like 2007-03-10T08:00"},

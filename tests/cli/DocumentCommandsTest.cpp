@@ -1,6 +1,7 @@
-// Looking at the tours of documents and dumps without a window, as a shell sees it.
+// Keeping tours in a document without a window: import, list, show, as a shell sees them.
 
 #include "platform/CalendarDate.h"
+#include "platform/DocumentFile.h"
 #include "simulator/RideGenerator.h"
 #include "tests/cli/CommandLine.h"
 #include "tests/support/Samples.h"
@@ -8,6 +9,7 @@
 #include <QDir>
 
 #include <algorithm>
+#include <map>
 
 namespace ridelog {
 namespace {
@@ -37,7 +39,80 @@ protected:
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
     }
+    /// A document with made-up rides; the first of them is the oldest.
+    QString library(int tours = 5) const
+    {
+        const auto dump = write("rides.odo", RideGenerator{.tours = tours}.dump());
+        auto document = path("library.ridelog");
+        const auto import = atYearsEnd(QStringLiteral("import --into"), {document, dump});
+        EXPECT_EQ(import.status, 0) << import.err.toStdString();
+        return document;
+    }
 };
+
+QJsonObject without(QJsonObject object, const QStringList& keys)
+{
+    for (const auto& key : keys)
+        object.remove(key);
+    return object;
+}
+
+TEST_F(DocumentCommands, SixDumpsInAnyOrderMakeOneLibrary)
+{
+    SKIP_WITHOUT_SAMPLES();
+    const auto wholeYear = samplePath(QStringLiteral("dumps/whole-year.odo"));
+    for (const char* order :
+         {"autumn spring summer whole-year winter wrapped", "winter wrapped spring summer autumn whole-year",
+          "wrapped whole-year winter summer spring autumn"}) {
+        QStringList dumps;
+        for (const auto& name : QString::fromLatin1(order).split(u' '))
+            dumps << samplePath(QStringLiteral("dumps/%1.odo").arg(name));
+        const auto document = path(order);
+        const QStringList words = QStringList{document, QStringLiteral("--json")} + dumps;
+
+        const auto first = atYearsEnd(QStringLiteral("import --into"), words).json();
+        EXPECT_EQ(first[u"document"].toString(), document);
+        EXPECT_EQ(first[u"added"], 24);
+        EXPECT_EQ(first[u"alreadyThere"], 31);
+        EXPECT_EQ(first[u"tours"], 24);
+        EXPECT_EQ(first[u"dumps"].toArray().size(), 6);
+        EXPECT_EQ(first[u"dumps"][0][u"dump"].toString(), dumps.first());
+        const auto saved = contents(document);
+        const auto again = atYearsEnd(QStringLiteral("import --into"), words).json();
+        EXPECT_EQ(again[u"added"], 0);
+        EXPECT_EQ(again[u"alreadyThere"], 55);
+        EXPECT_EQ(again[u"tours"], 24);
+        EXPECT_EQ(contents(document), saved);
+        EXPECT_FALSE(QFile::exists(document + u'~')) << "nothing to save, so no backup either";
+
+        std::map<QString, QJsonObject> inDumps; // the dump that came first has won
+        for (const auto& dump : dumps) {
+            for (const auto& tour : toursOf(QStringLiteral("inspect --series --raw"), dump))
+                inDumps.emplace(tour[u"date"].toString(), tour.toObject());
+        }
+        // Read back from a document, the stitched tour is as whole as in a memory that did not wrap.
+        const auto stitched = QStringLiteral("2007-12-20 11:21:00 +0100");
+        const auto whole = toursOf(QStringLiteral("inspect --series --raw"), wholeYear).last().toObject();
+        ASSERT_EQ(whole[u"date"].toString(), stitched);
+
+        const auto listed = toursOf(QStringLiteral("list --series --raw"), document);
+        ASSERT_EQ(listed.size(), 24);
+        auto expectedDates = datesOf(listed);
+        std::ranges::sort(expectedDates, std::ranges::greater());
+        EXPECT_EQ(datesOf(listed), expectedDates);
+        int number = 0;
+        for (const auto& value : listed) {
+            const auto tour = value.toObject();
+            const auto date = tour[u"date"].toString();
+            EXPECT_EQ(tour[u"number"], ++number);
+            const auto& expected = date == stitched ? whole : inDumps[date];
+            QStringList own{QStringLiteral("number")};
+            if (date == stitched) // lies elsewhere in another memory
+                own << QStringLiteral("tourDataDict");
+            EXPECT_TRUE(without(tour, own) == without(expected, own)) << order << ": " << qPrintable(date);
+        }
+    }
+}
 
 TEST_F(DocumentCommands, DocumentsOfOlderVersionsShowWhatTheyHold)
 {
@@ -74,6 +149,23 @@ TEST_F(DocumentCommands, DocumentsOfOlderVersionsShowWhatTheyHold)
     }
 }
 
+TEST_F(DocumentCommands, ImportSaysWhatItDid)
+{
+    const auto one = write("one.odo", RideGenerator{.seed = 7, .tours = 1}.dump());
+    const auto two = write("two.odo", RideGenerator{.seed = 8, .tours = 2}.dump());
+    const auto document = path("new.ridelog");
+    const auto single = atYearsEnd(QStringLiteral("import --into"), {document, one});
+    EXPECT_EQ(single.out, (one + QStringLiteral(": 1 tour added, 0 already there\n")).toUtf8());
+    const auto several = atYearsEnd(QStringLiteral("import --log trace --into"), {document, two, one});
+    EXPECT_EQ(several.out, QStringLiteral("%1: 2 tours added, 0 already there\n"
+                                          "%2: 0 tours added, 1 already there\n"
+                                          "2 dumps: 2 tours added, 1 already there\n")
+                               .arg(two, one)
+                               .toUtf8());
+    EXPECT_TRUE(several.err.contains("\n2 tours added\n") && several.err.contains("setGeneralData\n"));
+    EXPECT_TRUE(QFile::exists(document + u'~'));
+}
+
 TEST_F(DocumentCommands, ADumpIsReadLikeADocument)
 {
     const auto dump = write("rides.odo", RideGenerator{.tours = 3}.dump());
@@ -94,6 +186,76 @@ TEST_F(DocumentCommands, AValueThatATourDoesNotHaveIsNotShown)
     EXPECT_TRUE(shown.contains("Samples   0\n") && shown.contains("Distance ")) << shown.toStdString();
     EXPECT_EQ(shown.count("temperature "), 3);
     EXPECT_EQ(shown.count("–\n"), 3) << shown.toStdString();
+}
+
+TEST_F(DocumentCommands, WhatIsRefusedIsNamedAndNothingChanges)
+{
+    const auto document = library();
+    const auto dump = path("rides.odo");
+    const auto garbage = write("garbage", QByteArray(4096, 'F'));
+    const auto cut = write("cut.ridelog", contents(document).left(1000));
+    const auto newOne = path("new.ridelog");
+    const auto files = QDir(path(".")).entryList(QDir::Files | QDir::Hidden);
+    const auto saved = contents(document);
+
+    const auto import = QStringLiteral("import --into");
+    const auto one = QStringLiteral("1");
+    struct Case {
+        QString command;
+        QStringList words;
+        QString file;
+        const char* reason;
+    };
+    const Case cases[]{
+        {QStringLiteral("list"), {path("missing")}, path("missing"), "No such file or directory"},
+        {QStringLiteral("list"), {path(".")}, path("."), "it is a folder"},
+        {QStringLiteral("list"), {garbage}, garbage, "not a raw dump: 4,096 bytes"},
+        {QStringLiteral("show"), {cut, one}, cut, "not a readable document: "},
+        {QStringLiteral("show"), {document, QStringLiteral("6")}, document, "no tour 6: there are 5\n"},
+        {QStringLiteral("show"),
+         {document, QStringLiteral("2001-01-01T00:00")},
+         document,
+         "no tour starts at 2001-01-01T00:00\n"},
+        {import, {dump, dump}, dump, "a raw dump, not a document\n"},
+        {import, {cut, dump}, cut, "not a readable document: "},
+        {import, {document, document}, document, "a document, not a raw dump\n"},
+        {import,
+         {document, write("other.odo", RideGenerator{.seed = 9}.dump()), garbage},
+         garbage,
+         "not a raw dump: "},
+        {import, {newOne, dump, path("missing")}, path("missing"), "No such file or directory"},
+    };
+    for (const auto& [command, words, file, reason] : cases) {
+        const auto outcome = run(command, words);
+        const auto expected = QStringLiteral("ridelog-cli: %1: %2").arg(file, QString::fromLatin1(reason));
+        EXPECT_EQ(outcome.status, 1) << expected.toStdString();
+        EXPECT_EQ(outcome.out, "");
+        EXPECT_TRUE(outcome.err.startsWith(expected.toUtf8())) << outcome.err.toStdString();
+        EXPECT_EQ(outcome.err.count('\n'), 1);
+    }
+    EXPECT_EQ(contents(document), saved);
+    EXPECT_TRUE(run(QStringLiteral("show"), {cut, one}).err.contains(" left at byte "));
+    EXPECT_EQ(QDir(path(".")).entryList(QDir::Files | QDir::Hidden).size(), files.size() + 1)
+        << "other.odo alone";
+}
+
+TEST_F(DocumentCommands, WhatCannotBeSavedIsAFailureOfTheMachine)
+{
+    const auto document = library();
+    const auto saved = contents(document);
+    const auto one = QStringLiteral("1");
+    {
+        DocumentFile elsewhere(document);
+        ASSERT_FALSE(elsewhere.lock());
+        const auto import = run(QStringLiteral("import --into"), {document, path("rides.odo")});
+        EXPECT_EQ(import.status, 3);
+        EXPECT_TRUE(import.err.contains("library.ridelog: test-cli has it open")) << import.err.toStdString();
+        for (const char* reading : {"list", "inspect"})
+            EXPECT_EQ(run(QString::fromLatin1(reading), {document}).status, 0);
+        EXPECT_EQ(run(QStringLiteral("show"), {document, one}).status, 0);
+    }
+    EXPECT_EQ(run(QStringLiteral("import --into"), {path("no/folder.ridelog"), path("rides.odo")}).status, 3);
+    EXPECT_EQ(contents(document), saved);
 }
 
 } // namespace
