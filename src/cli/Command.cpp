@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 
+#include "cli/EditCommand.h"
 #include "cli/ImportCommand.h"
 #include "cli/InspectCommand.h"
 #include "cli/ListCommand.h"
@@ -33,6 +34,7 @@ const std::vector<std::unique_ptr<const Command>>& allCommands()
         list.push_back(std::make_unique<ImportCommand>());
         list.push_back(std::make_unique<ListCommand>());
         list.push_back(std::make_unique<ShowCommand>());
+        list.push_back(std::make_unique<EditCommand>());
         list.push_back(std::make_unique<MakeDumpCommand>());
         return list;
     }();

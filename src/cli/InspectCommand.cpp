@@ -34,7 +34,7 @@ QString toursText(const TourSource& source, const ReadableUnits& units)
         return QStringLiteral("No tours\n");
     auto text = QStringLiteral("Tours\n\n") + tourTable(source.tours, units);
     if (source.kind == TourSource::Kind::document)
-        text += QStringLiteral("\n  in the order of the file; show takes the numbers of list\n");
+        text += QStringLiteral("\n  in the order of the file; show and edit take the numbers of list\n");
     return text;
 }
 

@@ -1,4 +1,4 @@
-// Keeping tours in a document without a window: import, list, show, as a shell sees them.
+// Keeping tours in a document without a window: import, list, show, edit, as a shell sees them.
 
 #include "platform/CalendarDate.h"
 #include "platform/DocumentFile.h"
@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <map>
+#include <unistd.h>
 
 namespace ridelog {
 namespace {
@@ -166,6 +167,77 @@ TEST_F(DocumentCommands, ImportSaysWhatItDid)
     EXPECT_TRUE(QFile::exists(document + u'~'));
 }
 
+TEST_F(DocumentCommands, EditsAreSeenWhereverTheTourIsShown)
+{
+    const auto document = library();
+    const auto before = toursOf(QStringLiteral("list"), document);
+    const QString title(60, u'x');
+    const auto edit =
+        run(QStringLiteral("edit"), {document, QStringLiteral("2"), QStringLiteral("--title"), title,
+                                     QStringLiteral("--description=first\nand\x1b[31m second")});
+    EXPECT_EQ(edit.status, 0) << edit.err.toStdString();
+    const auto after = toursOf(QStringLiteral("list"), document);
+    EXPECT_EQ(after[1][u"title"].toString(), title);
+    EXPECT_EQ(after[1][u"description"].toString(), QStringLiteral("first\nand\x1b[31m second"));
+    const QStringList edited{QStringLiteral("title"), QStringLiteral("description")};
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(without(after[i].toObject(), edited), without(before[i].toObject(), edited));
+
+    EXPECT_EQ(run(QStringLiteral("show --json"), {document, QStringLiteral("2")}).json(),
+              after[1].toObject());
+    const auto shown = run(QStringLiteral("show --miles"), {document, QStringLiteral("2")}).out;
+    EXPECT_TRUE(shown.contains(title.toUtf8()) && shown.contains(" mph\n") && shown.contains(" ft\n"));
+    EXPECT_TRUE(shown.endsWith("Description\n\n  first\n  and\\x1b[31m second\n")) << shown.toStdString();
+    const auto list = run(QStringLiteral("list"), {document}).out;
+    EXPECT_TRUE(list.contains(QString(39, u'x').toUtf8() + "…\n")) << list.toStdString();
+
+    const auto saved = contents(document);
+    const auto same =
+        run(QStringLiteral("edit"), {document, QStringLiteral("2"), QStringLiteral("--title"), title});
+    EXPECT_TRUE(same.status == 0 && same.out.endsWith(": nothing to change\n")) << same.out.toStdString();
+    EXPECT_EQ(contents(document), saved);
+    EXPECT_EQ(
+        run(QStringLiteral("edit"), {document, QStringLiteral("2"), QStringLiteral("--title=a\nb")}).status,
+        2);
+}
+
+TEST_F(DocumentCommands, RemovedToursAreCountedOnlyWhereTheyAreListed)
+{
+    const auto document = library();
+    const auto dates = datesOf(toursOf(QStringLiteral("list"), document));
+    const auto asWord = [](const QString& date) { return date.left(16).replace(u' ', u'T'); };
+    const auto dateShown = [&](const char* options, const QString& tour) {
+        return run(QStringLiteral("show --json ") + QString::fromLatin1(options), {document, tour})
+            .json()[u"date"]
+            .toString();
+    };
+    const auto two = QStringLiteral("2");
+    ASSERT_EQ(run(QStringLiteral("edit --remove"), {document, two}).status, 0);
+
+    auto left = dates;
+    left.removeAt(1);
+    EXPECT_EQ(datesOf(toursOf(QStringLiteral("list"), document)), left);
+    EXPECT_EQ(datesOf(toursOf(QStringLiteral("list --removed"), document)), dates);
+    EXPECT_TRUE(toursOf(QStringLiteral("list --removed"), document)[1][u"removed"].toBool());
+    EXPECT_TRUE(run(QStringLiteral("list"), {document}).out.contains("1 removed tour left out"));
+    EXPECT_EQ(run(QStringLiteral("list --removed"), {document}).out.count("  removed\n"), 1);
+    // In the document's own order, which here is that of the dump.
+    EXPECT_EQ(datesOf(toursOf(QStringLiteral("inspect"), document)),
+              datesOf(toursOf(QStringLiteral("inspect"), path("rides.odo"))));
+
+    EXPECT_EQ(dateShown("", two), dates[2]);
+    EXPECT_EQ(dateShown("--removed", two), dates[1]);
+    EXPECT_EQ(dateShown("", asWord(dates[1])), dates[1]) << "by its start a removed tour is found as well";
+    const auto beyond = run(QStringLiteral("show"), {document, QStringLiteral("5")});
+    EXPECT_EQ(beyond.status, 1);
+    EXPECT_TRUE(beyond.err.endsWith("library.ridelog: no tour 5: there are 4, and 1 removed\n"));
+
+    ASSERT_EQ(run(QStringLiteral("edit --restore"), {document, two}).status, 0);
+    EXPECT_EQ(datesOf(toursOf(QStringLiteral("list"), document)), dates);
+    ASSERT_EQ(run(QStringLiteral("edit --remove"), {document, asWord(dates[4])}).status, 0);
+    EXPECT_EQ(toursOf(QStringLiteral("list"), document).size(), 4);
+}
+
 TEST_F(DocumentCommands, ADumpIsReadLikeADocument)
 {
     const auto dump = write("rides.odo", RideGenerator{.tours = 3}.dump());
@@ -188,6 +260,22 @@ TEST_F(DocumentCommands, AValueThatATourDoesNotHaveIsNotShown)
     EXPECT_EQ(shown.count("–\n"), 3) << shown.toStdString();
 }
 
+TEST_F(DocumentCommands, ToursThatStartTogetherAreToldApartByNumber)
+{
+    DumpWriter writer;
+    for (const double distance : {100.0, 200.0})
+        writer.addTour({.month = 3, .day = 10, .hour = 8, .samples = {{.distance = distance}}});
+    const auto document = path("library.ridelog");
+    ASSERT_EQ(atYearsEnd(QStringLiteral("import --into"), {document, write("two.odo", writer.dump())}).status,
+              0);
+    const QStringList start{document, QStringLiteral("2007-03-10T08:00")};
+    const auto refusal = [&] { return run(QStringLiteral("edit --remove"), start).err; };
+    EXPECT_TRUE(refusal().endsWith(": 2 tours start at 2007-03-10T08:00: numbers 1, 2\n"))
+        << refusal().toStdString();
+    ASSERT_EQ(run(QStringLiteral("edit --remove"), {document, QStringLiteral("1")}).status, 0);
+    EXPECT_TRUE(refusal().endsWith(": numbers 1, 2 with --removed\n")) << refusal().toStdString();
+}
+
 TEST_F(DocumentCommands, WhatIsRefusedIsNamedAndNothingChanges)
 {
     const auto document = library();
@@ -198,6 +286,7 @@ TEST_F(DocumentCommands, WhatIsRefusedIsNamedAndNothingChanges)
     const auto files = QDir(path(".")).entryList(QDir::Files | QDir::Hidden);
     const auto saved = contents(document);
 
+    const auto edit = QStringLiteral("edit --remove");
     const auto import = QStringLiteral("import --into");
     const auto one = QStringLiteral("1");
     struct Case {
@@ -216,6 +305,10 @@ TEST_F(DocumentCommands, WhatIsRefusedIsNamedAndNothingChanges)
          {document, QStringLiteral("2001-01-01T00:00")},
          document,
          "no tour starts at 2001-01-01T00:00\n"},
+        {edit, {document, QStringLiteral("99999999999")}, document, "no tour 99999999999: there are 5\n"},
+        {edit, {path("missing"), one}, path("missing"), "No such file or directory"},
+        {edit, {dump, one}, dump, "a raw dump, not a document\n"},
+        {edit, {garbage, one}, garbage, "not a readable document: "},
         {import, {dump, dump}, dump, "a raw dump, not a document\n"},
         {import, {cut, dump}, cut, "not a readable document: "},
         {import, {document, document}, document, "a document, not a raw dump\n"},
@@ -247,15 +340,35 @@ TEST_F(DocumentCommands, WhatCannotBeSavedIsAFailureOfTheMachine)
     {
         DocumentFile elsewhere(document);
         ASSERT_FALSE(elsewhere.lock());
-        const auto import = run(QStringLiteral("import --into"), {document, path("rides.odo")});
-        EXPECT_EQ(import.status, 3);
-        EXPECT_TRUE(import.err.contains("library.ridelog: test-cli has it open")) << import.err.toStdString();
+        for (const auto& change : {run(QStringLiteral("edit --remove"), {document, one}),
+                                   run(QStringLiteral("import --into"), {document, path("rides.odo")})}) {
+            EXPECT_EQ(change.status, 3);
+            EXPECT_TRUE(change.err.contains("library.ridelog: test-cli has it open"))
+                << change.err.toStdString();
+        }
         for (const char* reading : {"list", "inspect"})
             EXPECT_EQ(run(QString::fromLatin1(reading), {document}).status, 0);
         EXPECT_EQ(run(QStringLiteral("show"), {document, one}).status, 0);
     }
     EXPECT_EQ(run(QStringLiteral("import --into"), {path("no/folder.ridelog"), path("rides.odo")}).status, 3);
     EXPECT_EQ(contents(document), saved);
+}
+
+TEST_F(DocumentCommands, AFolderThatIsNotToBeWrittenIsLeftAlone)
+{
+    if (geteuid() == 0)
+        GTEST_SKIP() << "root may write into any folder";
+    const auto document = library();
+    const auto saved = contents(document);
+    QFile folder(path("."));
+    const auto permissions = folder.permissions();
+    ASSERT_TRUE(folder.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+    const auto edit = run(QStringLiteral("edit --remove"), {document, QStringLiteral("1")});
+    EXPECT_EQ(edit.status, 3);
+    EXPECT_TRUE(edit.err.contains("Permission denied")) << edit.err.toStdString();
+    EXPECT_EQ(run(QStringLiteral("list"), {document}).status, 0);
+    EXPECT_EQ(contents(document), saved);
+    folder.setPermissions(permissions);
 }
 
 } // namespace
