@@ -127,7 +127,7 @@ private:
     /// Passes the stored form on in pieces.
     void write(const ByteSink& sink) const;
     std::optional<QString> writeTo(DocumentFile& file);
-    std::optional<QString> load(DocumentFile& file, const QDateTime& now);
+    std::optional<QString> readFrom(DocumentFile& file, const QDateTime& now);
     Import mergeDump(const OdoData& dump);
     void appendTours(const Tours& tours);
     void takeOutTours(const Tours& tours);

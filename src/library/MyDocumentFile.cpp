@@ -13,16 +13,16 @@ QString unsaved()
 
 } // namespace
 
-std::optional<QString> MyDocument::load(DocumentFile& file, const QDateTime& now)
+std::optional<QString> MyDocument::readFrom(DocumentFile& file, const QDateTime& now)
 {
-    QByteArray bytes;
-    if (auto error = file.read(bytes, TypedStreamReader::largestArchive))
-        return error;
-    if (!loadDataRepresentation(bytes, typeName, now))
-        return _refusal;
-    _undoManager.removeAllActions();
-    _undoManager.setClean();
-    return std::nullopt;
+    const auto load = [&](const QByteArray& bytes) -> std::optional<QString> {
+        if (!loadDataRepresentation(bytes, typeName, now))
+            return _refusal;
+        _undoManager.removeAllActions();
+        _undoManager.setClean();
+        return std::nullopt;
+    };
+    return file.read(load, TypedStreamReader::largestArchive);
 }
 
 std::optional<QString> MyDocument::open(const QString& path, Missing missing, const QDateTime& now)
@@ -31,7 +31,7 @@ std::optional<QString> MyDocument::open(const QString& path, Missing missing, co
     // Locked before it is read: nobody changes what was read.
     const auto owner = file.lock();
     if (missing == Missing::refuse || QFileInfo::exists(path)) {
-        if (auto error = load(file, now))
+        if (auto error = readFrom(file, now))
             return error;
     }
     _readOnlyReason = owner.value_or(QString());
@@ -42,7 +42,7 @@ std::optional<QString> MyDocument::open(const QString& path, Missing missing, co
 std::optional<QString> MyDocument::openForReading(const QString& path, const QDateTime& now)
 {
     DocumentFile file(path);
-    if (auto error = load(file, now))
+    if (auto error = readFrom(file, now))
         return error;
     _readOnlyReason = QStringLiteral("it was opened for reading only");
     _file = std::move(file);
@@ -85,7 +85,7 @@ std::optional<QString> MyDocument::revert(const QDateTime& now)
 {
     if (!_file)
         return unsaved();
-    return load(*_file, now);
+    return readFrom(*_file, now);
 }
 
 void MyDocument::acceptChangesOfOthers()

@@ -1,5 +1,7 @@
 #include "platform/DocumentFile.h"
 
+#include "platform/TypedStreamReader.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
@@ -9,10 +11,34 @@
 namespace ridelog {
 namespace {
 
-QString lockPath(const QString& target)
+/// Nobody is busy making a lock for longer.
+constexpr int lockMakingTime = 10'000; // milliseconds
+
+QString hiddenBeside(const QString& target, const QString& suffix)
 {
     const QFileInfo info(target);
-    return info.path() + QStringLiteral("/.") + info.fileName() + QStringLiteral(".lock");
+    return info.path() + QStringLiteral("/.") + info.fileName() + suffix;
+}
+
+QString lockPath(const QString& target)
+{
+    return hiddenBeside(target, QStringLiteral(".lock"));
+}
+
+bool isDocument(const QString& path)
+{
+    constexpr qint64 enoughToTell = 64;
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && TypedStreamReader::isTypedStream(file.read(enoughToTell));
+}
+
+/// Whether there is something of this name that is no older document, or that somebody has open as one.
+bool belongsToOthers(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.exists() && !info.isSymLink())
+        return false;
+    return info.isSymLink() || !info.isFile() || QFileInfo::exists(lockPath(path)) || !isDocument(path);
 }
 
 } // namespace
@@ -31,36 +57,50 @@ std::optional<QString> DocumentFile::lock()
     auto lock = std::make_unique<QLockFile>(lockPath(_target));
     // The owner may have the document open for weeks; only one that no longer runs has given it up.
     lock->setStaleLockTime(0);
-    if (lock->tryLock(0)) {
+    qint64 process = 0;
+    QString host;
+    QString program;
+    bool locked = lock->tryLock(0);
+    const bool ownerIsKnown = locked || lock->getLockInfo(&process, &host, &program);
+    if (!ownerIsKnown) {
+        // One that was killed, or lost its power, before it had said who it is.
+        lock->setStaleLockTime(lockMakingTime);
+        locked = lock->tryLock(0);
+    }
+    if (locked) {
         _lock = std::move(lock);
+        // What an owner before us left that was killed while it saved.
+        QFile::remove(passingPath());
         return std::nullopt;
     }
     if (lock->error() != QLockFile::LockFailedError)
         return std::nullopt;
-    qint64 process = 0;
-    QString host;
-    QString program;
-    if (!lock->getLockInfo(&process, &host, &program))
+    if (!ownerIsKnown)
         return QStringLiteral("another program has it open");
     return QStringLiteral("%1 has it open (process %2 on %3)").arg(program).arg(process).arg(host);
 }
 
-std::optional<QString> DocumentFile::read(QByteArray& bytes, qint64 largest)
+std::optional<QString> DocumentFile::read(const Load& load, qint64 largest)
 {
-    const QFileInfo info(_target);
-    if (info.exists() && !info.isFile())
-        return info.isDir() ? QStringLiteral("it is a folder") : QStringLiteral("it is not a regular file");
+    // A pipe would keep us waiting.
+    if (auto reason = whyNoFile(_target))
+        return reason;
     QFile file(_target);
     if (!file.open(QIODevice::ReadOnly))
         return file.errorString();
     // Before the bytes: what is written after this is noticed as a change.
-    _known = currentState();
+    struct stat found {};
+    if (::fstat(file.handle(), &found) != 0)
+        return qt_error_string();
     if (file.size() > largest)
         return QStringLiteral("it is too large: %1 bytes, at most %2 are read")
             .arg(QLocale::c().toString(file.size()), QLocale::c().toString(largest));
-    bytes = file.readAll();
+    const auto bytes = file.readAll();
     if (file.error() != QFile::NoError)
         return file.errorString();
+    if (auto error = load(bytes))
+        return error;
+    _known = State(found);
     return std::nullopt;
 }
 
@@ -72,18 +112,54 @@ bool DocumentFile::wasChangedByOthers() const
 
 std::optional<QString> DocumentFile::write(const ByteSource& content)
 {
-    if (const auto owner = lock())
+    if (auto owner = lock())
         return owner;
-    if (wasChangedByOthers())
-        return QStringLiteral("another program has changed it meanwhile");
-    if (!_backedUp && _known) {
-        if (const auto error = keepUnderName(_target, _target + u'~'))
-            return QStringLiteral("no backup can be kept: ") + *error;
-    }
-    const auto error = writeWholeFile(_target, content);
+    if (auto change = changeOfOthers())
+        return change;
+    WholeFile file(_target, passingPath());
+    if (auto error = file.write(content))
+        return error;
+    if (auto error = keepBackup())
+        return QStringLiteral("no backup can be kept: ") + *error;
+    // Once more: forcing bytes to a disk takes its time.
+    if (auto change = changeOfOthers())
+        return change;
+    if (auto error = file.putInPlace())
+        return error;
     _known = currentState();
-    _backedUp = _backedUp || !error;
-    return error;
+    _backedUp = true;
+    return file.forceFolder();
+}
+
+/// What the first write of this session will replace.
+std::optional<QString> DocumentFile::keepBackup() const
+{
+    if (_backedUp || !currentState())
+        return std::nullopt;
+    auto backup = _target + u'~';
+    while (belongsToOthers(backup))
+        backup += u'~';
+    return keepUnderName(_target, backup, passingPath());
+}
+
+/// The name that new files have in passing. Without the lock it could be somebody else's as well.
+QString DocumentFile::passingPath() const
+{
+    return _lock ? hiddenBeside(_target, QStringLiteral(".saving")) : QString();
+}
+
+std::optional<QString> DocumentFile::changeOfOthers() const
+{
+    return wasChangedByOthers() ? std::optional(QStringLiteral("another program has changed it meanwhile"))
+                                : std::nullopt;
+}
+
+DocumentFile::State::State(const struct stat& found)
+    : device(found.st_dev),
+      number(found.st_ino),
+      size(found.st_size),
+      modified(found.st_mtim.tv_sec * 1'000'000'000 + found.st_mtim.tv_nsec)
+{
 }
 
 std::optional<DocumentFile::State> DocumentFile::currentState() const
@@ -91,10 +167,7 @@ std::optional<DocumentFile::State> DocumentFile::currentState() const
     struct stat found {};
     if (::stat(QFile::encodeName(_target).constData(), &found) != 0)
         return std::nullopt;
-    return State{.device = found.st_dev,
-                 .number = found.st_ino,
-                 .size = found.st_size,
-                 .modified = found.st_mtim.tv_sec * 1'000'000'000 + found.st_mtim.tv_nsec};
+    return State(found);
 }
 
 } // namespace ridelog

@@ -7,8 +7,10 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
+#include <sys/stat.h>
 
 namespace ridelog {
 
@@ -30,8 +32,11 @@ public:
     /// others.
     std::optional<QString> lock();
 
-    /// Reads the whole file, which is then known as it is. Larger files than `largest` bytes are refused.
-    std::optional<QString> read(QByteArray& bytes, qint64 largest);
+    /// Takes over what the file holds, or answers why that is none of its kind.
+    using Load = std::function<std::optional<QString>(const QByteArray& bytes)>;
+    /// Reads the whole file. Only when `load` took it over, the file is known as it is: what was not is not
+    /// overwritten unasked. Larger files than `largest` bytes are refused.
+    std::optional<QString> read(const Load& load, qint64 largest);
 
     /// Whether the file is another one than it was when it was last read or written here, or has come into
     /// being since. One that has gone counts as unchanged: writing loses nothing.
@@ -40,8 +45,9 @@ public:
     /// What was there may be overwritten, whoever wrote it.
     void acceptChangesOfOthers() { _known = currentState(); }
 
-    /// Writes the file (see writeWholeFile). Before the first time, what was there is kept beside it under
-    /// its name with a "~" behind it. Refused when the file is locked or was changed by others.
+    /// Writes the file (see WholeFile). The first time, what was there is kept beside it under its name with
+    /// a "~" behind it, or with more where such a file is no older document or is open as one. Refused when
+    /// the file is locked or was changed by others.
     std::optional<QString> write(const ByteSource& content);
 
 private:
@@ -51,9 +57,13 @@ private:
         std::uint64_t number;
         std::int64_t size;
         std::int64_t modified; ///< nanoseconds
+        explicit State(const struct stat& found);
         bool operator==(const State&) const = default;
     };
     std::optional<State> currentState() const;
+    std::optional<QString> changeOfOthers() const;
+    std::optional<QString> keepBackup() const;
+    QString passingPath() const;
 
     QString _path;
     QString _target; ///< links followed

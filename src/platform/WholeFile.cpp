@@ -23,7 +23,12 @@ QString systemError()
 /// A name in the folder that nobody else uses: short, for the file's own name may be as long as names can be.
 QByteArray temporaryName(const QByteArray& folder)
 {
-    return folder + "/.ridelog-" + QByteArray::number(QRandomGenerator::global()->generate64(), 36);
+    return folder + "/.ridelog-" + QByteArray::number(QRandomGenerator::system()->generate64(), 36);
+}
+
+QString inFolder(const QString& error)
+{
+    return QStringLiteral("nothing can be written in its folder: ") + error;
 }
 
 /// Calls again what a signal has interrupted.
@@ -36,20 +41,18 @@ auto uninterrupted(Call&& call)
     return result;
 }
 
-/// The file that is being written; gone again unless it was put in place.
-class NewFile {
-public:
-    /// Without a name a file leaves nothing behind when the program is killed, but not every file system has
-    /// such files.
-    enum class Kind { unnamed, named };
+} // namespace
 
-    NewFile(QByteArray folder, Kind kind, mode_t permissions) : _folder(std::move(folder))
+/// The new file; gone again unless it was put in place.
+class WholeFile::NewFile {
+public:
+    NewFile(const QByteArray& folder, Kind kind, mode_t permissions)
     {
         if (kind == Kind::unnamed) {
-            _descriptor = ::open(_folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, permissions);
+            _descriptor = ::open(folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, permissions);
             return;
         }
-        const auto name = temporaryName(_folder);
+        const auto name = temporaryName(folder);
         _descriptor = ::open(name.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, permissions);
         if (_descriptor >= 0)
             _name = name;
@@ -88,11 +91,10 @@ public:
         return error;
     }
 
-    bool giveName()
+    bool giveName(const QByteArray& name)
     {
         if (!_name.isEmpty())
             return true;
-        const auto name = temporaryName(_folder);
         const auto unnamed = "/proc/self/fd/" + QByteArray::number(_descriptor);
         if (::linkat(AT_FDCWD, unnamed.constData(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW) != 0)
             return false;
@@ -123,79 +125,90 @@ private:
         return true;
     }
 
-    QByteArray _folder;
     QByteArray _name; ///< empty while it has none
     int _descriptor = -1;
 };
 
-/// Makes sure that a renaming in the folder survives a power failure.
-std::optional<QString> syncFolder(const QString& folder)
+WholeFile::WholeFile(const QString& path, const QString& passing)
 {
-    const int descriptor = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0)
-        return systemError();
-    // Some file systems do not know how to force a folder; they say so.
-    const bool synced = uninterrupted([&] { return ::fsync(descriptor); }) == 0 || errno == EINVAL;
-    const auto error = synced ? std::nullopt : std::optional(systemError());
-    ::close(descriptor);
-    return error;
+    const auto target = targetOfPath(path);
+    _name = QFile::encodeName(target);
+    _folder = QFile::encodeName(QFileInfo(target).path());
+    _passing = passing.isEmpty() ? temporaryName(_folder) : QFile::encodeName(passing);
 }
 
-} // namespace
+WholeFile::~WholeFile()
+{
+    if (_folderDescriptor >= 0)
+        ::close(_folderDescriptor);
+}
+
+std::optional<QString> WholeFile::write(ByteSource content)
+{
+    // The new file takes the place of the old one, which must not happen to a device or a pipe.
+    if (auto reason = whyNoFile(QFile::decodeName(_name)))
+        return reason;
+    struct stat old {};
+    if (::stat(_name.constData(), &old) == 0)
+        _old = old;
+    if (_old ? ::access(_name.constData(), W_OK) != 0 : errno != ENOENT)
+        return systemError();
+    // Opened before anything is changed: where a renaming cannot be forced to the disk, none is begun.
+    _folderDescriptor = ::open(_folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (_folderDescriptor < 0)
+        return inFolder(systemError());
+    _content = std::move(content);
+    const auto error = makeNewFile(Kind::unnamed);
+    return _newFile ? error : makeNewFile(Kind::named);
+}
+
+std::optional<QString> WholeFile::putInPlaceOf(const QByteArray& name)
+{
+    if (!_newFile->giveName(_passing)) {
+        if (auto error = makeNewFile(Kind::named))
+            return error;
+    }
+    return _newFile->putInPlaceOf(name) ? std::nullopt : std::optional(systemError());
+}
+
+/// There is no new file where files of this kind cannot be made at all.
+std::optional<QString> WholeFile::makeNewFile(Kind kind)
+{
+    _newFile = std::make_unique<NewFile>(_folder, kind, _old ? 0600 : 0666);
+    if (!_newFile->isOpen()) {
+        auto error = inFolder(systemError());
+        _newFile.reset();
+        return error;
+    }
+    if (_old && !_newFile->takeAttributesOf(*_old))
+        return systemError();
+    return _newFile->write(_content);
+}
+
+std::optional<QString> WholeFile::forceFolder()
+{
+    // Some file systems do not know how to force a folder; they say so.
+    if (uninterrupted([&] { return ::fsync(_folderDescriptor); }) != 0 && errno != EINVAL)
+        return systemError();
+    return std::nullopt;
+}
 
 std::optional<QString> writeWholeFile(const QString& path, QByteArrayView bytes)
 {
-    return writeWholeFile(path, [bytes](const ByteSink& sink) { sink(bytes); });
+    WholeFile file(path);
+    if (auto error = file.write([bytes](const ByteSink& sink) { sink(bytes); }))
+        return error;
+    if (auto error = file.putInPlace())
+        return error;
+    return file.forceFolder();
 }
 
-std::optional<QString> writeWholeFile(const QString& path, const ByteSource& content)
-{
-    // The new file takes the place of the old one, which must not happen to a device, a pipe or a broken
-    // link.
-    const QFileInfo info(path);
-    if (info.exists() ? !info.isFile() : info.isSymLink())
-        return info.isDir() ? QStringLiteral("it is a folder") : QStringLiteral("it is not a regular file");
-
-    const auto target = targetOfPath(path);
-    const auto name = QFile::encodeName(target);
-    const auto folder = QFileInfo(target).path();
-    struct stat old {};
-    const bool replaces = ::stat(name.constData(), &old) == 0;
-    if (replaces ? ::access(name.constData(), W_OK) != 0 : errno != ENOENT)
-        return systemError();
-
-    for (const auto kind : {NewFile::Kind::unnamed, NewFile::Kind::named}) {
-        NewFile file(QFile::encodeName(folder), kind, replaces ? 0600 : 0666);
-        const bool mayTryAgain = kind == NewFile::Kind::unnamed;
-        if (!file.isOpen() && mayTryAgain)
-            continue;
-        if (!file.isOpen() || (replaces && !file.takeAttributesOf(old)))
-            return systemError();
-        if (const auto error = file.write(content))
-            return error;
-        if (!file.giveName() && mayTryAgain)
-            continue;
-        if (!file.putInPlaceOf(name))
-            return systemError();
-        break;
-    }
-    return syncFolder(folder);
-}
-
-QString targetOfPath(const QString& path)
-{
-    const QFileInfo info(path);
-    if (const auto target = info.canonicalFilePath(); !target.isEmpty())
-        return target;
-    const auto folder = info.dir().canonicalPath();
-    return folder.isEmpty() ? info.absoluteFilePath() : QDir(folder).filePath(info.fileName());
-}
-
-std::optional<QString> keepUnderName(const QString& path, const QString& otherPath)
+std::optional<QString> keepUnderName(const QString& path, const QString& otherPath, const QString& passing)
 {
     const auto name = QFile::encodeName(path);
     const auto otherName = QFile::encodeName(otherPath);
-    const auto link = temporaryName(QFile::encodeName(QFileInfo(path).path()));
+    const auto link = passing.isEmpty() ? temporaryName(QFile::encodeName(QFileInfo(path).path()))
+                                        : QFile::encodeName(passing);
     if (::link(name.constData(), link.constData()) == 0) {
         const bool renamed = ::rename(link.constData(), otherName.constData()) == 0;
         const auto error = renamed ? std::nullopt : std::optional(systemError());
@@ -207,7 +220,33 @@ std::optional<QString> keepUnderName(const QString& path, const QString& otherPa
     if (!file.open(QIODevice::ReadOnly))
         return file.errorString();
     const auto bytes = file.readAll();
-    return file.error() == QFile::NoError ? writeWholeFile(otherPath, bytes) : file.errorString();
+    if (file.error() != QFile::NoError)
+        return file.errorString();
+    WholeFile copy(path);
+    if (auto error = copy.write([&bytes](const ByteSink& sink) { sink(bytes); }))
+        return error;
+    return copy.putInPlaceOf(otherName);
+}
+
+QString targetOfPath(const QString& path)
+{
+    const QFileInfo info(path);
+    if (const auto target = info.canonicalFilePath(); !target.isEmpty())
+        return target;
+    const auto folder = info.dir().canonicalPath();
+    return folder.isEmpty() ? info.absoluteFilePath() : QDir(folder).filePath(info.fileName());
+}
+
+std::optional<QString> whyNoFile(const QString& path)
+{
+    const QFileInfo info(path);
+    if (info.isDir())
+        return QStringLiteral("it is a folder");
+    if (info.exists() && !info.isFile())
+        return QStringLiteral("it is not a regular file");
+    if (!info.exists() && info.isSymLink())
+        return QStringLiteral("it is a link that leads nowhere");
+    return std::nullopt;
 }
 
 } // namespace ridelog
