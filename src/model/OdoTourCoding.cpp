@@ -24,6 +24,15 @@ bool isNext(TypedStreamReader& reader, const char* className)
     return next && next->isKindOf(className);
 }
 
+/// Refuses the archive unless an object of the class comes next, or nil: what is taken for another thing, or
+/// for nothing, would be lost when the tour is stored again.
+void expect(TypedStreamReader& reader, const char* className, const QString& what)
+{
+    const auto* next = reader.nextClass();
+    if (reader.nextType() != '@' || (next && !next->isKindOf(className)))
+        reader.fail(QStringLiteral("%1 of a tour is missing or damaged").arg(what));
+}
+
 bool readField(TypedStreamReader& reader, std::optional<QString>& field)
 {
     if (field || !isNext(reader, "NSString"))
@@ -114,22 +123,31 @@ std::shared_ptr<OdoTour> OdoTour::initWithCoder(TypedStreamReader& reader, const
     tour->_title = untitled();
     tour->_description = StyledText(untitled());
     tour->_dataIsBigEndian = true;
+    expect(reader, "NSDictionary", QStringLiteral("the recording"));
     tour->_tourDataDict = readDictionary(reader);
     if (*version >= 2) {
+        expect(reader, "NSString", QStringLiteral("the title"));
         tour->_title = reader.readString().value_or(untitled());
         if (const auto description = StyledText::fromArchive(reader.readObject()))
             tour->_description = *description;
         else
-            reader.fail(QStringLiteral("a tour's description is damaged"));
+            reader.fail(QStringLiteral("the description of a tour is missing or damaged"));
     }
     if (*version >= 3) {
+        expect(reader, "NSData", QStringLiteral("the removed mark"));
         const auto mark = reader.readData().value_or(QByteArrayView());
         tour->_removed = !mark.isEmpty() && mark.front() != 0;
     }
-    if (*version >= 4)
+    if (*version >= 4) {
+        expect(reader, "NSDate", QStringLiteral("the start"));
         tour->_date = reader.readObject().toDate().value_or(QDateTime());
-    if (*version >= 6)
-        tour->_dataIsBigEndian = reader.readNumber().value_or(ArchiveNumber()).toBool();
+    }
+    if (*version >= 6) {
+        if (const auto isBigEndian = reader.readNumber())
+            tour->_dataIsBigEndian = isBigEndian->toBool();
+        else
+            reader.fail(QStringLiteral("the byte order of a tour is missing or damaged"));
+    }
     reader.closeObject();
     if (reader.failed())
         return nullptr;
