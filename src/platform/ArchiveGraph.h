@@ -3,6 +3,8 @@
 #include "platform/ArchiveClass.h"
 
 #include <QByteArray>
+#include <QHash>
+#include <QString>
 
 #include <bit>
 #include <cstdint>
@@ -71,6 +73,7 @@ struct ArchiveGraph {
     std::vector<Group> groups;
     std::vector<Value> values;
     QByteArray contents;
+    mutable QHash<std::uint32_t, QString> longTexts; ///< decoded once and shared, by index in `objects`
 };
 
 } // namespace ridelog

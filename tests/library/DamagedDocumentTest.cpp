@@ -3,6 +3,7 @@
 // changes of each byte.
 
 #include "bench/PeakMemory.h"
+#include "tests/support/Archives.h"
 #include "tests/support/Documents.h"
 
 #include <QElapsedTimer>
@@ -45,6 +46,34 @@ struct Outcomes {
         slowest = std::max(slowest, timer.elapsed());
     }
 };
+
+TEST(DamagedDocument, ALongTextOfManyToursIsHeldOnce)
+{
+    const QString text(1 << 20, u'x');
+    const ArchiveClass tourClass{"OdoTour", 2, &ArchiveClasses::object};
+    const auto bytes = written([&](TypedStreamWriter& out) {
+        out.beginDictionary(2);
+        out.writeConstant(QStringLiteral("generalData"));
+        out.beginDictionary(0);
+        out.endObject();
+        out.writeConstant(QStringLiteral("toursArray"));
+        out.beginArray(500);
+        for (int tour = 0; tour < 500; ++tour) {
+            out.beginObject(tourClass);
+            out.writeNil();
+            out.writeConstant(text);
+            out.writeConstant(text);
+            out.endObject();
+        }
+        out.endObject();
+        out.endObject();
+    });
+    const PeakMemory memory;
+    MyDocument document;
+    EXPECT_EQ(refusalOf(document, bytes), "");
+    EXPECT_EQ(document.toursArray().back()->tourDescription().text(), text);
+    EXPECT_TRUE(!measuresMemory || memory.risen() < 64 << 20) << memory.risen();
+}
 
 TEST(DamagedDocument, IsRefusedOrOpenedWhateverHappenedToIt)
 {

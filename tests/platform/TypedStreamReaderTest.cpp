@@ -225,6 +225,9 @@ TEST(TypedStreamReader, DatesKnowTheirZone)
     EXPECT_EQ(date("Europe/Berlin"), "2007-03-10 08:00:01 +0100");
     EXPECT_EQ(date("GMT-0430"), "2007-03-10 02:30:01 -0430");
     EXPECT_EQ(date("GMT"), "2007-03-10 07:00:01 +0000");
+    EXPECT_EQ(date("PST"), "2007-03-09 23:00:01 -0800");
+    EXPECT_EQ(date("CEST"), "2007-03-10 08:00:01 +0100") << "the zone's, whatever its clocks showed";
+    EXPECT_EQ(date("FOO"), date("Nowhere/Bogus")) << "no rule at Greenwich, but the reader's own zone";
     const auto local =
         QDateTime(QDate(2007, 3, 10), QTime(7, 0, 1), Qt::UTC).toTimeZone(CalendarDate::localTimeZone());
     EXPECT_EQ(date("Nowhere/Atall"), CalendarDate::text(local).toStdString());
