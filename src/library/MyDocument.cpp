@@ -100,19 +100,38 @@ MyDocument::~MyDocument()
 void MyDocument::setToursArray(Tours tours)
 {
     qCDebug(lcLibrary, "setToursArray");
+    detach(_toursArray);
     _toursArray = std::move(tours);
     qCDebug(lcLibrary, "undoManager %p", static_cast<void*>(&_undoManager));
-    for (const auto& tour : _toursArray) {
+    attach(_toursArray);
+    Q_EMIT toursArrayChanged();
+}
+
+void MyDocument::attach(const Tours& tours)
+{
+    for (const auto& tour : tours) {
         tour->setUndo(&_undoManager);
         tour->setChanges(&_tourChanges);
     }
-    Q_EMIT toursArrayChanged();
+}
+
+void MyDocument::detach(const Tours& tours)
+{
+    for (const auto& tour : tours) {
+        tour->setUndo(nullptr);
+        tour->setChanges(nullptr);
+    }
 }
 
 void MyDocument::setGeneralData(const GeneralData& generalData)
 {
+    setStoredGeneralData({generalData, {}});
+}
+
+void MyDocument::setStoredGeneralData(StoredGeneralData generalData)
+{
     qCDebug(lcLibrary, "setGeneralData");
-    _generalData = {generalData, {}};
+    _generalData = std::move(generalData);
 }
 
 bool MyDocument::isDocument(QByteArrayView firstBytes)
@@ -170,8 +189,7 @@ bool MyDocument::loadDataRepresentation(const QByteArray& data, const QString& o
     }
     _refusal.clear();
     setToursArray(*std::move(content.tours));
-    qCDebug(lcLibrary, "setGeneralData");
-    _generalData = *std::move(content.generalData);
+    setStoredGeneralData(*std::move(content.generalData));
     _otherEntries = std::move(content.otherEntries);
     return true;
 }

@@ -104,12 +104,13 @@ public:
     Import importFile(const QString& path, const QDateTime& now = CalendarDate::now());
     /// Takes a whole dump from the device, and keeps it as a file if the user wants that.
     Import handleTransferFinished(const QByteArray& dump, const QDateTime& now = CalendarDate::now());
-    /// Keeps what arrived of a dump, if anything did, as a file that can be imported.
-    static void handleTransferStopped(const QByteArray& dump);
-
     /// Marks a tour as removed, or takes the mark away. It stays in the document.
     void deleteTour(const std::shared_ptr<OdoTour>& tour);
     void undeleteTour(const std::shared_ptr<OdoTour>& tour);
+
+    /// Keeps what arrived of a dump whose transfer was stopped, if anything did, as a file that can be
+    /// imported. Changes no document.
+    static void handleTransferStopped(const QByteArray& dump);
 
 Q_SIGNALS:
     /// Tours came or went.
@@ -129,8 +130,13 @@ private:
     std::optional<QString> writeTo(DocumentFile& file);
     std::optional<QString> readFrom(DocumentFile& file, const QDateTime& now);
     Import mergeDump(const OdoData& dump);
+    void attach(const Tours& tours);
+    /// Edits of tours that are not here any more are not this document's.
+    static void detach(const Tours& tours);
     void appendTours(const Tours& tours);
     void takeOutTours(const Tours& tours);
+    void setStoredGeneralData(StoredGeneralData generalData);
+    /// The same, undoable.
     void replaceGeneralData(StoredGeneralData generalData);
 
     Defaults* _defaults;

@@ -35,27 +35,23 @@ void keepRawDump(const QString& name, const QByteArray& dump)
 std::size_t MyDocument::addNewToursFromArray(const Tours& tours)
 {
     const auto added = std::make_shared<const Tours>(toursNotIn(_toursArray, tours));
-    const auto actionName = addingTours(added->size());
     if (!added->empty()) {
         for (const auto& tour : *added)
             qCDebug(lcLibrary, "Tourdate: %s added %ld", qUtf8Printable(tour->description()),
                     tour.use_count());
         _undoManager.registerUndo(
-            actionName, [this, added] { takeOutTours(*added); }, [this, added] { appendTours(*added); });
+            addingTours(added->size()), [this, added] { takeOutTours(*added); },
+            [this, added] { appendTours(*added); });
         appendTours(*added);
     }
-    _undoManager.setActionName(actionName);
     qCDebug(lcLibrary, "%zu tours added", added->size());
     return added->size();
 }
 
 void MyDocument::appendTours(const Tours& tours)
 {
-    for (const auto& tour : tours) {
-        tour->setUndo(&_undoManager);
-        tour->setChanges(&_tourChanges);
-        _toursArray.push_back(tour);
-    }
+    attach(tours);
+    _toursArray.insert(_toursArray.end(), tours.begin(), tours.end());
     Q_EMIT toursArrayChanged();
 }
 
@@ -63,16 +59,15 @@ void MyDocument::takeOutTours(const Tours& tours)
 {
     const std::unordered_set<std::shared_ptr<OdoTour>> taken(tours.begin(), tours.end());
     std::erase_if(_toursArray, [&taken](const auto& tour) { return taken.contains(tour); });
+    detach(tours);
     Q_EMIT toursArrayChanged();
 }
 
 void MyDocument::replaceGeneralData(StoredGeneralData generalData)
 {
-    if (generalData == _generalData)
-        return;
-    _undoManager.registerUndo([this, old = _generalData] { replaceGeneralData(old); });
-    qCDebug(lcLibrary, "setGeneralData");
-    _generalData = std::move(generalData);
+    if (generalData != _generalData)
+        _undoManager.registerUndo([this, old = _generalData] { replaceGeneralData(old); });
+    setStoredGeneralData(std::move(generalData));
 }
 
 // The two roads by which a dump arrives

@@ -15,7 +15,7 @@ using Tours = std::vector<std::shared_ptr<OdoTour>>;
 /// Two tours are the same when they start at the same instant and have the same total distance, or the very
 /// same sample records. The latter is so for a tour that went over the end of the device's memory: as it
 /// comes from the device its distance is that of its first part, as it comes from a document that of the
-/// whole. Linear in the number of tours.
+/// whole. Linear in the number of tours as long as few of them start together.
 Tours toursNotIn(const Tours& present, const Tours& incoming);
 
 } // namespace ridelog

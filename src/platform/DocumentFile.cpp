@@ -126,7 +126,7 @@ std::optional<QString> DocumentFile::write(const ByteSource& content)
         return change;
     if (auto error = file.putInPlace())
         return error;
-    _known = currentState();
+    _known = State(file.state());
     _backedUp = true;
     return file.forceFolder();
 }

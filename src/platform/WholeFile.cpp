@@ -46,16 +46,16 @@ auto uninterrupted(Call&& call)
 /// The new file; gone again unless it was put in place.
 class WholeFile::NewFile {
 public:
-    NewFile(const QByteArray& folder, Kind kind, mode_t permissions)
+    /// A named file has the name `passing`.
+    NewFile(const QByteArray& folder, const QByteArray& passing, Kind kind, mode_t permissions)
     {
         if (kind == Kind::unnamed) {
             _descriptor = ::open(folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, permissions);
             return;
         }
-        const auto name = temporaryName(folder);
-        _descriptor = ::open(name.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, permissions);
+        _descriptor = ::open(passing.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, permissions);
         if (_descriptor >= 0)
-            _name = name;
+            _name = passing;
     }
     ~NewFile()
     {
@@ -102,14 +102,18 @@ public:
         return true;
     }
 
-    bool putInPlaceOf(const QByteArray& path)
+    /// Answers what the file system says of the new file, if all went well.
+    std::optional<struct stat> putInPlaceOf(const QByteArray& path)
     {
+        struct stat state {};
+        if (::fstat(_descriptor, &state) != 0)
+            return std::nullopt;
         // Interrupted or not, the descriptor is gone, and the bytes were on the disk before.
         const bool closed = ::close(std::exchange(_descriptor, -1)) == 0 || errno == EINTR;
         if (!closed || ::rename(_name.constData(), path.constData()) != 0)
-            return false;
+            return std::nullopt;
         _name.clear();
-        return true;
+        return state;
     }
 
 private:
@@ -168,13 +172,17 @@ std::optional<QString> WholeFile::putInPlaceOf(const QByteArray& name)
         if (auto error = makeNewFile(Kind::named))
             return error;
     }
-    return _newFile->putInPlaceOf(name) ? std::nullopt : std::optional(systemError());
+    const auto state = _newFile->putInPlaceOf(name);
+    if (!state)
+        return systemError();
+    _state = *state;
+    return std::nullopt;
 }
 
 /// There is no new file where files of this kind cannot be made at all.
 std::optional<QString> WholeFile::makeNewFile(Kind kind)
 {
-    _newFile = std::make_unique<NewFile>(_folder, kind, _old ? 0600 : 0666);
+    _newFile = std::make_unique<NewFile>(_folder, _passing, kind, _old ? 0600 : 0666);
     if (!_newFile->isOpen()) {
         auto error = inFolder(systemError());
         _newFile.reset();

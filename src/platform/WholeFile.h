@@ -35,6 +35,8 @@ public:
     /// The new file takes the old one's place, or that of whatever has another name in the same folder.
     std::optional<QString> putInPlace() { return putInPlaceOf(_name); }
     std::optional<QString> putInPlaceOf(const QByteArray& name);
+    /// What the file system says of the file that was put in place, whoever has replaced it since.
+    const struct stat& state() const { return _state; }
     /// Makes sure that what took place in the folder survives a power failure.
     std::optional<QString> forceFolder();
 
@@ -51,6 +53,7 @@ private:
     int _folderDescriptor = -1;
     ByteSource _content;
     std::optional<struct stat> _old;
+    struct stat _state {};
     std::unique_ptr<NewFile> _newFile;
 };
 

@@ -40,6 +40,8 @@ TEST(DocumentMerge, AddsWhatIsNotThereYetAsOneStep)
     EXPECT_EQ(document.undoManager().undoActionName(), QStringLiteral("adding 3 tours"));
     EXPECT_TRUE(document.undoManager().undo());
     EXPECT_EQ(document.toursArray(), (Tours{tours[0], tours[3]}));
+    tours[1]->setTitle(QStringLiteral("edited by who still has it"));
+    EXPECT_TRUE(document.undoManager().canRedo()) << "it is not this document's edit";
     EXPECT_TRUE(document.undoManager().redo());
     EXPECT_EQ(document.toursArray().size(), 5U);
     EXPECT_EQ(document.addNewToursFromArray(tours), 0U);
