@@ -93,7 +93,9 @@ std::optional<QDateTime> localTimeOf(const QString& text)
     auto time = QTime::fromString(text.mid(11), QStringLiteral("HH:mm:ss"));
     if (!time.isValid())
         time = QTime::fromString(text.mid(11), QStringLiteral("HH:mm"));
-    if (!day.isValid() || !time.isValid() || text[10] != u'T')
+    // A tour may belong to the year before, and no calendar here goes below the first.
+    constexpr int earliestYear = 1900;
+    if (!day.isValid() || !time.isValid() || text[10] != u'T' || day.year() < earliestYear)
         return std::nullopt;
     return CalendarDate::fromFields(day.year(), day.month(), day.day(), time.hour(), time.minute(),
                                     time.second(), CalendarDate::localTimeZone());

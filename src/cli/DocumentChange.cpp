@@ -16,6 +16,9 @@ bool isDump(const QString& path, const QDateTime& now)
 std::optional<ExitStatus> openToChange(MyDocument& document, const QString& path, MyDocument::Missing missing,
                                        const QDateTime& now)
 {
+    // The path of a folder, whether there is one or not.
+    if (path.endsWith(u'/'))
+        return refuse(path, QStringLiteral("it is a folder"));
     if (const auto error = document.open(path, missing, now))
         return refuse(path, isDump(path, now) ? QStringLiteral("a raw dump, not a document") : *error);
     if (document.isReadOnly())

@@ -3,6 +3,7 @@
 #include "cli/DocumentChange.h"
 #include "cli/TourList.h"
 #include "cli/TourName.h"
+#include "cli/Wording.h"
 
 #include <QCommandLineParser>
 
@@ -24,8 +25,8 @@ QString faultOf(const QCommandLineParser& options)
         return QStringLiteral("--remove and --restore do not go together");
     if (!removes && !restores && !options.isSet(titleName) && !options.isSet(descriptionName))
         return QStringLiteral("nothing to change: give --title, --description, --remove or --restore");
-    if (const auto title = options.value(titleName); title.contains(u'\n') || title.contains(u'\r'))
-        return QStringLiteral("--title takes one line");
+    if (!isOneLine(options.value(titleName)))
+        return QStringLiteral("--title takes one line of text");
     return {};
 }
 
@@ -91,7 +92,7 @@ ExitStatus EditCommand::execute(const CommandContext& context) const
         return *status;
     // Only the list with removed tours shows one that can be restored.
     const bool countRemoved = options.isSet(removedName) || options.isSet(restoreName);
-    const auto found = name->findIn(newestFirst(document.toursArray()), countRemoved);
+    const auto found = name->findIn(inListOrder(document.toursArray()), countRemoved);
     if (!found.tour)
         return refuse(path, found.refusal);
 

@@ -8,6 +8,8 @@
 
 #include <QCommandLineParser>
 
+#include <algorithm>
+
 namespace ridelog {
 namespace {
 
@@ -20,6 +22,8 @@ QString notes(const TourSource& source, const Tours& listed)
     if (const auto removed = static_cast<qsizetype>(source.tours.size() - listed.size()); removed > 0)
         text += QStringLiteral("\n  %1 left out (see --removed)\n")
                     .arg(counted(removed, QStringLiteral("removed tour")));
+    if (std::ranges::any_of(listed, [](const auto& tour) { return tour->removed(); }))
+        text += QStringLiteral("\n  show and edit take these numbers with --removed\n");
     if (source.kind == TourSource::Kind::dump && !listed.empty())
         text += QStringLiteral("\n  newest first; show takes the numbers of inspect\n");
     return text;
@@ -63,7 +67,7 @@ ExitStatus ListCommand::execute(const CommandContext& context) const
     if (!source.refusal.isEmpty())
         return refuse(file, source.refusal);
 
-    auto tours = newestFirst(source.tours);
+    auto tours = inListOrder(source.tours);
     if (!context.options.isSet(removedName))
         tours = withoutRemoved(tours);
     if (json->isWanted())

@@ -56,7 +56,7 @@ ExitStatus ShowCommand::execute(const CommandContext& context) const
 
     const bool isDump = source.kind == TourSource::Kind::dump;
     const auto found =
-        name->findIn(isDump ? source.tours : newestFirst(source.tours), context.options.isSet(removedName));
+        name->findIn(isDump ? source.tours : inListOrder(source.tours), context.options.isSet(removedName));
     if (!found.tour)
         return refuse(file, found.refusal);
     if (context.options.isSet(jsonName))

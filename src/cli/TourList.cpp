@@ -1,13 +1,12 @@
 #include "cli/TourList.h"
 
-#include <algorithm>
+#include "library/TourSorting.h"
 
 namespace ridelog {
 
-Tours newestFirst(Tours tours)
+Tours inListOrder(const Tours& tours)
 {
-    std::ranges::stable_sort(tours, std::ranges::greater(), [](const auto& tour) { return tour->date(); });
-    return tours;
+    return sortedTours(tours, newestFirst());
 }
 
 Tours withoutRemoved(Tours tours)

@@ -4,8 +4,8 @@
 
 namespace ridelog {
 
-/// The tours in the order in which a document's are listed. Those that start together stay as they were.
-Tours newestFirst(Tours tours);
+/// The tours in the order in which a document's are listed: newest first.
+Tours inListOrder(const Tours& tours);
 
 Tours withoutRemoved(Tours tours);
 

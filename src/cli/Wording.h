@@ -9,6 +9,9 @@ namespace ridelog {
 /// The text without anything that would end its line or move a terminal's cursor.
 QString printable(const QString& text);
 
+/// Whether the text has nothing of that.
+bool isOneLine(const QString& text);
+
 /// At most `length` characters of the text, the last of them "…" where some are left out.
 QString elided(const QString& text, qsizetype length);
 

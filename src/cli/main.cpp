@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QStringDecoder>
 
+#include <csignal>
 #include <fcntl.h>
 
 namespace {
@@ -31,6 +32,8 @@ bool isUtf8(const char* word)
 int main(int argc, char* argv[])
 {
     occupyClosedStreams();
+    // A file beyond the size that is allowed is an error like a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
     // Before the toolkit starts, so that it is as quiet as the application.
     ridelog::setLogLevel(ridelog::LogLevel::none);
     const QCoreApplication application(argc, argv);

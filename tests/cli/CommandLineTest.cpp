@@ -182,9 +182,11 @@ TEST_F(CommandLine, WhatCannotBeWrittenIsAFailureOfTheMachine)
 {
     const auto outcome = run(QStringLiteral("make-dump -o"), {path("no/such/folder.odo")});
     EXPECT_EQ(outcome.status, 3);
-    EXPECT_EQ(outcome.err, QStringLiteral("ridelog-cli: %1: No such file or directory\n")
-                               .arg(path("no/such/folder.odo"))
-                               .toUtf8());
+    EXPECT_EQ(
+        outcome.err,
+        QStringLiteral("ridelog-cli: %1: nothing can be written in its folder: No such file or directory\n")
+            .arg(path("no/such/folder.odo"))
+            .toUtf8());
 }
 
 TEST_F(CommandLine, OnlyARegularFileIsReplaced)
