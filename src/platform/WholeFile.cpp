@@ -219,7 +219,7 @@ std::optional<QString> keepUnderName(const QString& path, const QString& otherPa
                                         : QFile::encodeName(passing);
     if (::link(name.constData(), link.constData()) == 0) {
         const bool renamed = ::rename(link.constData(), otherName.constData()) == 0;
-        const auto error = renamed ? std::nullopt : std::optional(systemError());
+        auto error = renamed ? std::nullopt : std::optional(systemError());
         // A file that has both names already is left as it is by renaming.
         ::unlink(link.constData());
         return error;
@@ -239,7 +239,7 @@ std::optional<QString> keepUnderName(const QString& path, const QString& otherPa
 QString targetOfPath(const QString& path)
 {
     const QFileInfo info(path);
-    if (const auto target = info.canonicalFilePath(); !target.isEmpty())
+    if (auto target = info.canonicalFilePath(); !target.isEmpty())
         return target;
     const auto folder = info.dir().canonicalPath();
     return folder.isEmpty() ? info.absoluteFilePath() : QDir(folder).filePath(info.fileName());

@@ -154,8 +154,8 @@ TEST(DocumentImport, ReplacesTheGeneralDataUnlessTheFileIsNoDump)
 
 class DocumentTransfer : public testing::Test {
 protected:
-    DocumentTransfer() { qputenv("HOME", QFile::encodeName(folder.path("."))); }
-    ~DocumentTransfer() override { qputenv("HOME", home); }
+    void SetUp() override { qputenv("HOME", QFile::encodeName(folder.path("."))); }
+    void TearDown() override { qputenv("HOME", home); }
 
     QByteArray content(const char* name) const
     {

@@ -30,7 +30,7 @@ TEST_F(WholeFileTest, KeepsPermissionsAndOwner)
     const auto file = write("file", "old");
     const uid_t owner = ::geteuid() == 0 ? 12345 : ::geteuid();
     ASSERT_EQ(::chown(qPrintable(file), owner, static_cast<gid_t>(-1)), 0);
-    for (const mode_t mode : {0600, 0664, 0606}) {
+    for (const mode_t mode : {0600U, 0664U, 0606U}) {
         ASSERT_EQ(::chmod(qPrintable(file), mode), 0);
         EXPECT_EQ(writeWholeFile(file, "new"), std::nullopt);
         EXPECT_EQ(statusOf(file).st_mode & 07777, mode);
