@@ -138,6 +138,7 @@ TEST_F(DocumentFileTest, TheBackupTakesThePlaceOfNothingElse)
         EXPECT_EQ(read("unrelated"), others);
         QFile::remove(backup);
         QDir().rmdir(backup);
+        QFile::remove(path("file~~"));
     }
 }
 

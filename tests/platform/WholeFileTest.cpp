@@ -83,7 +83,7 @@ TEST_F(WholeFileTest, ForcesTheBytesToTheDiskBeforeTheyTakeThePlaceAndTheFolderA
     FailingDisk disk(path(), {});
     EXPECT_EQ(writeWholeFile(path("file"), "new"), std::nullopt);
     EXPECT_EQ(disk.calls(), (std::vector{Call::open, Call::open, Call::write, Call::sync, Call::link,
-                                         Call::close, Call::rename, Call::syncFolder, Call::close}));
+                                         Call::close, Call::rename, Call::syncFolder}));
 }
 
 TEST_F(WholeFileTest, AFolderThatIsNotToBeWrittenIsSaidToBeSo)

@@ -82,6 +82,16 @@ void FailingDisk::synced()
 using ridelog::FailingDisk;
 using Call = FailingDisk::Call;
 
+namespace {
+
+bool isFolder(int descriptor)
+{
+    struct stat found {};
+    return ::fstat(descriptor, &found) == 0 && S_ISDIR(found.st_mode);
+}
+
+} // namespace
+
 extern "C" {
 
 int __real_open(const char* path, int flags, ...);
@@ -117,13 +127,13 @@ int __wrap_open(const char* path, int flags, ...)
 int __wrap_fchown(int descriptor, uid_t owner, gid_t group)
 {
     auto* on = FailingDisk::of(descriptor);
-    return on && on->fails(Call::setAttributes) ? -1 : __real_fchown(descriptor, owner, group);
+    return on && on->fails(Call::setOwner) ? -1 : __real_fchown(descriptor, owner, group);
 }
 
 int __wrap_fchmod(int descriptor, mode_t mode)
 {
     auto* on = FailingDisk::of(descriptor);
-    return on && on->fails(Call::setAttributes) ? -1 : __real_fchmod(descriptor, mode);
+    return on && on->fails(Call::setMode) ? -1 : __real_fchmod(descriptor, mode);
 }
 
 ssize_t __wrap_write(int descriptor, const void* bytes, size_t size)
@@ -140,9 +150,7 @@ int __wrap_fsync(int descriptor)
     auto* on = FailingDisk::of(descriptor);
     if (!on)
         return __real_fsync(descriptor);
-    struct stat found {};
-    const bool isFolder = ::fstat(descriptor, &found) == 0 && S_ISDIR(found.st_mode);
-    if (on->fails(isFolder ? Call::syncFolder : Call::sync))
+    if (on->fails(isFolder(descriptor) ? Call::syncFolder : Call::sync))
         return -1;
     on->synced();
     return 0;
@@ -151,11 +159,12 @@ int __wrap_fsync(int descriptor)
 int __wrap_close(int descriptor)
 {
     auto* on = FailingDisk::of(descriptor);
+    // Nothing can be lost when a folder is closed.
+    const bool mayFail = on && !isFolder(descriptor);
     const int closed = __real_close(descriptor);
-    if (!on)
-        return closed;
-    on->closed(descriptor);
-    return on->fails(Call::close) ? -1 : closed;
+    if (on)
+        on->closed(descriptor);
+    return mayFail && on->fails(Call::close) ? -1 : closed;
 }
 
 int __wrap_link(const char* oldPath, const char* newPath)

@@ -17,7 +17,7 @@ namespace ridelog {
 /// saves quick. One at a time.
 class FailingDisk {
 public:
-    enum class Call { open, setAttributes, write, sync, close, link, rename, syncFolder };
+    enum class Call { open, setOwner, setMode, write, sync, close, link, rename, syncFolder };
     struct FileSystem {
         bool unnamedFiles = true;
         bool hardLinks = true;
