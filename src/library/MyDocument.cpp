@@ -100,27 +100,25 @@ MyDocument::~MyDocument()
 void MyDocument::setToursArray(Tours tours)
 {
     qCDebug(lcLibrary, "setToursArray");
-    detach(_toursArray);
+    for (const auto& tour : _toursArray)
+        detach(*tour);
     _toursArray = std::move(tours);
     qCDebug(lcLibrary, "undoManager %p", static_cast<void*>(&_undoManager));
-    attach(_toursArray);
+    for (const auto& tour : _toursArray)
+        attach(*tour);
     Q_EMIT toursArrayChanged();
 }
 
-void MyDocument::attach(const Tours& tours)
+void MyDocument::attach(OdoTour& tour)
 {
-    for (const auto& tour : tours) {
-        tour->setUndo(&_undoManager);
-        tour->setChanges(&_tourChanges);
-    }
+    tour.setUndo(&_undoManager);
+    tour.setChanges(&_tourChanges);
 }
 
-void MyDocument::detach(const Tours& tours)
+void MyDocument::detach(OdoTour& tour)
 {
-    for (const auto& tour : tours) {
-        tour->setUndo(nullptr);
-        tour->setChanges(nullptr);
-    }
+    tour.setUndo(nullptr);
+    tour.setChanges(nullptr);
 }
 
 void MyDocument::setGeneralData(const GeneralData& generalData)

@@ -130,9 +130,9 @@ private:
     std::optional<QString> writeTo(DocumentFile& file);
     std::optional<QString> readFrom(DocumentFile& file, const QDateTime& now);
     Import mergeDump(const OdoData& dump);
-    void attach(const Tours& tours);
-    /// Edits of tours that are not here any more are not this document's.
-    static void detach(const Tours& tours);
+    // Whether the edits of a tour are this document's.
+    void attach(OdoTour& tour);
+    static void detach(OdoTour& tour);
     void appendTours(const Tours& tours);
     void takeOutTours(const Tours& tours);
     void setStoredGeneralData(StoredGeneralData generalData);

@@ -50,8 +50,10 @@ std::size_t MyDocument::addNewToursFromArray(const Tours& tours)
 
 void MyDocument::appendTours(const Tours& tours)
 {
-    attach(tours);
-    _toursArray.insert(_toursArray.end(), tours.begin(), tours.end());
+    for (const auto& tour : tours) {
+        attach(*tour);
+        _toursArray.push_back(tour);
+    }
     Q_EMIT toursArrayChanged();
 }
 
@@ -59,7 +61,8 @@ void MyDocument::takeOutTours(const Tours& tours)
 {
     const std::unordered_set<std::shared_ptr<OdoTour>> taken(tours.begin(), tours.end());
     std::erase_if(_toursArray, [&taken](const auto& tour) { return taken.contains(tour); });
-    detach(tours);
+    for (const auto& tour : tours)
+        detach(*tour);
     Q_EMIT toursArrayChanged();
 }
 
