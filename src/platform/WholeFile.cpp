@@ -105,12 +105,12 @@ public:
     /// Answers what the file system says of the new file, if all went well.
     std::optional<struct stat> putInPlaceOf(const QByteArray& path)
     {
-        struct stat state {};
-        if (::fstat(_descriptor, &state) != 0)
-            return std::nullopt;
         // Interrupted or not, the descriptor is gone, and the bytes were on the disk before.
         const bool closed = ::close(std::exchange(_descriptor, -1)) == 0 || errno == EINTR;
-        if (!closed || ::rename(_name.constData(), path.constData()) != 0)
+        // Asked now: there are file servers that set a file's time when it is closed.
+        struct stat state {};
+        if (!closed || ::stat(_name.constData(), &state) != 0 ||
+            ::rename(_name.constData(), path.constData()) != 0)
             return std::nullopt;
         _name.clear();
         return state;

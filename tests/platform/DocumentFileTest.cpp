@@ -89,7 +89,7 @@ TEST_F(DocumentFileTest, NorWhatTheyWriteMeanwhile)
     write("file", mine);
     auto file = opened();
     FailingDisk disk(path(), {});
-    disk.afterSync([&] {
+    disk.at(FailingDisk::Call::sync, [&] {
         QFile::remove(path("file"));
         write("file", others);
     });
@@ -106,6 +106,16 @@ TEST_F(DocumentFileTest, AFileThatHasGoneIsWrittenAgain)
     EXPECT_FALSE(file.wasChangedByOthers());
     EXPECT_EQ(file.write(source(edited)), std::nullopt);
     EXPECT_EQ(read("file"), edited);
+}
+
+TEST_F(DocumentFileTest, TheTimeThatAServerSetsWhenAFileIsClosedIsNoChange)
+{
+    write("file", mine);
+    auto file = opened();
+    FailingDisk disk(path(), {});
+    disk.at(FailingDisk::Call::close, [&] { setAge(".file.saving", 60); });
+    EXPECT_EQ(file.write(source(edited)), std::nullopt);
+    EXPECT_FALSE(file.wasChangedByOthers());
 }
 
 TEST_F(DocumentFileTest, KeepsWhatTheSessionFound)

@@ -47,6 +47,8 @@ void FailingDisk::plan(Plan plan)
 bool FailingDisk::fails(Call call)
 {
     _calls.push_back(call);
+    if (_event.second && _event.first == call)
+        std::exchange(_event.second, nullptr)();
     if (_plan.call == never || _plan.call-- != 0)
         return false;
     _plan.call = never;
@@ -67,12 +69,6 @@ std::size_t FailingDisk::takeRoom(std::size_t bytes)
     const auto taken = std::min({static_cast<qint64>(bytes), _plan.room, _mostBytes});
     _plan.room -= taken;
     return static_cast<std::size_t>(taken);
-}
-
-void FailingDisk::synced()
-{
-    if (const auto event = std::exchange(_event, nullptr))
-        event();
 }
 
 } // namespace ridelog
@@ -150,16 +146,13 @@ int __wrap_fsync(int descriptor)
     auto* on = FailingDisk::of(descriptor);
     if (!on)
         return __real_fsync(descriptor);
-    if (on->fails(isFolder(descriptor) ? Call::syncFolder : Call::sync))
-        return -1;
-    on->synced();
-    return 0;
+    return on->fails(isFolder(descriptor) ? Call::syncFolder : Call::sync) ? -1 : 0;
 }
 
 int __wrap_close(int descriptor)
 {
     auto* on = FailingDisk::of(descriptor);
-    // Nothing can be lost when a folder is closed.
+    // A folder that is closed has nothing to lose.
     const bool mayFail = on && !isFolder(descriptor);
     const int closed = __real_close(descriptor);
     if (on)

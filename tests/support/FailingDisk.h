@@ -32,8 +32,8 @@ public:
     void failBeyond(qint64 room, int error) { plan({.room = room, .error = error}); }
     /// One of the calls to come fails; 0 is the next.
     void failCall(qint64 number, int error) { plan({.call = number, .error = error}); }
-    /// Runs once, as soon as bytes of a file have been forced to the disk.
-    void afterSync(std::function<void()> event) { _event = std::move(event); }
+    /// Runs once, at the next call of this kind.
+    void at(Call call, std::function<void()> event) { _event = {call, std::move(event)}; }
     /// No write takes more bytes than that.
     void cutWrites(qint64 most) { _mostBytes = most; }
     void work() { plan({}); }
@@ -55,7 +55,6 @@ public:
     std::size_t takeRoom(std::size_t bytes);
     void opened(int descriptor) { _descriptors.insert(descriptor); }
     void closed(int descriptor) { _descriptors.erase(descriptor); }
-    void synced();
 
 private:
     static constexpr auto never = std::numeric_limits<qint64>::max();
@@ -73,7 +72,7 @@ private:
     qint64 _mostBytes = never;
     std::optional<Call> _failed;
     std::vector<Call> _calls;
-    std::function<void()> _event;
+    std::pair<Call, std::function<void()>> _event;
     std::set<int> _descriptors;
 };
 
