@@ -20,6 +20,11 @@ QString hiddenBeside(const QString& target, const QString& suffix)
     return info.path() + QStringLiteral("/.") + info.fileName() + suffix;
 }
 
+// Names in passing: of the new file, and of the backup. A new file that needs a name from the start has its
+// own while the backup is made.
+const QString savingSuffix = QStringLiteral(".saving");
+const QString backupSuffix = QStringLiteral(".backup");
+
 QString lockPath(const QString& target)
 {
     return hiddenBeside(target, QStringLiteral(".lock"));
@@ -70,7 +75,8 @@ std::optional<QString> DocumentFile::lock()
     if (locked) {
         _lock = std::move(lock);
         // What an owner before us left that was killed while it saved.
-        QFile::remove(passingPath());
+        for (const auto& suffix : {savingSuffix, backupSuffix})
+            QFile::remove(passingPath(suffix));
         return std::nullopt;
     }
     if (lock->error() != QLockFile::LockFailedError)
@@ -116,7 +122,7 @@ std::optional<QString> DocumentFile::write(const ByteSource& content)
         return owner;
     if (auto change = changeOfOthers())
         return change;
-    WholeFile file(_target, passingPath());
+    WholeFile file(_target, passingPath(savingSuffix));
     if (auto error = file.write(content))
         return error;
     if (auto error = keepBackup())
@@ -139,13 +145,13 @@ std::optional<QString> DocumentFile::keepBackup() const
     auto backup = _target + u'~';
     while (belongsToOthers(backup))
         backup += u'~';
-    return keepUnderName(_target, backup, passingPath());
+    return keepUnderName(_target, backup, passingPath(backupSuffix));
 }
 
-/// The name that new files have in passing. Without the lock it could be somebody else's as well.
-QString DocumentFile::passingPath() const
+/// A name of a file in passing; none without the lock, as it could be somebody else's as well.
+QString DocumentFile::passingPath(const QString& suffix) const
 {
-    return _lock ? hiddenBeside(_target, QStringLiteral(".saving")) : QString();
+    return _lock ? hiddenBeside(_target, suffix) : QString();
 }
 
 std::optional<QString> DocumentFile::changeOfOthers() const

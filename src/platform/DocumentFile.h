@@ -63,7 +63,7 @@ private:
     std::optional<State> currentState() const;
     std::optional<QString> changeOfOthers() const;
     std::optional<QString> keepBackup() const;
-    QString passingPath() const;
+    QString passingPath(const QString& suffix) const;
 
     QString _path;
     QString _target; ///< links followed

@@ -230,7 +230,7 @@ std::optional<QString> keepUnderName(const QString& path, const QString& otherPa
     const auto bytes = file.readAll();
     if (file.error() != QFile::NoError)
         return file.errorString();
-    WholeFile copy(path);
+    WholeFile copy(path, passing);
     if (auto error = copy.write([&bytes](const ByteSink& sink) { sink(bytes); }))
         return error;
     return copy.putInPlaceOf(otherName);

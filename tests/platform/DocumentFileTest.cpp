@@ -118,6 +118,22 @@ TEST_F(DocumentFileTest, TheTimeThatAServerSetsWhenAFileIsClosedIsNoChange)
     EXPECT_FALSE(file.wasChangedByOthers());
 }
 
+TEST_F(DocumentFileTest, ABackupTakesNoRoomWhereAFileCanHaveTwoNames)
+{
+    const auto number = [&](const char* name) {
+        struct stat found {};
+        EXPECT_EQ(::stat(qPrintable(path(name)), &found), 0);
+        return found.st_ino;
+    };
+    for (const bool unnamedFiles : {true, false}) {
+        write("file", mine);
+        const auto found = number("file");
+        const FailingDisk disk(path(), {.unnamedFiles = unnamedFiles});
+        EXPECT_EQ(opened().write(source(edited)), std::nullopt);
+        EXPECT_EQ(number("file~"), found);
+    }
+}
+
 TEST_F(DocumentFileTest, KeepsWhatTheSessionFound)
 {
     for (int session = 0; session < 3; ++session) {
@@ -186,6 +202,8 @@ TEST_F(DocumentFileTest, OneProcessAtATime)
 TEST_F(DocumentFileTest, ALockOfNobodyIsTakenOver)
 {
     write(".file.lock", "");
+    write(".file.saving", "half of");
+    write(".file.backup", "half of");
     EXPECT_EQ(DocumentFile(path("file")).lock(), QStringLiteral("another program has it open"));
     setAge(".file.lock", 60);
     EXPECT_EQ(DocumentFile(path("file")).lock(), std::nullopt);
