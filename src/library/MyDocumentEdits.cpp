@@ -7,8 +7,9 @@
 
 #include <QDir>
 
-#include <algorithm>
+#include <memory>
 #include <unordered_set>
+#include <utility>
 
 namespace ridelog {
 namespace {
@@ -81,8 +82,12 @@ MyDocument::Import MyDocument::importFile(const QString& path, const QDateTime& 
     const auto dump = OdoData::initWithFile(path, now);
     auto import = mergeDump(dump);
     if (import.refusal.isEmpty()) {
-        replaceGeneralData({dump.generalDataDict(), {}});
-        _undoManager.setActionName(addingTours(import.added));
+        StoredGeneralData generalData{dump.generalDataDict(), {}};
+        const bool isAnother = generalData != _generalData;
+        replaceGeneralData(std::move(generalData));
+        // An import that changes nothing names nothing: an edit of the same event keeps its name.
+        if (isAnother)
+            _undoManager.setActionName(addingTours(import.added));
     }
     return import;
 }

@@ -148,6 +148,10 @@ TEST(DocumentImport, ReplacesTheGeneralDataUnlessTheFileIsNoDump)
     EXPECT_FALSE(document.importFile(folder.path("missing.odo")).refusal.isEmpty());
     EXPECT_EQ(document.importFile(dump, berlin(2007, 12, 31)).alreadyThere, 2U);
     document.undoManager().closeGroup();
+    document.toursArray().front()->setTitle(QStringLiteral("edited"));
+    document.importFile(dump, berlin(2007, 12, 31));
+    EXPECT_EQ(document.undoManager().undoActionName(), QStringLiteral("change title"));
+    document.undoManager().undo();
     EXPECT_FALSE(document.isChanged()) << "nothing was added, nothing is to be saved";
     EXPECT_EQ(document.generalData().size(), 28);
 }
