@@ -108,10 +108,6 @@ public:
     void deleteTour(const std::shared_ptr<OdoTour>& tour);
     void undeleteTour(const std::shared_ptr<OdoTour>& tour);
 
-    /// Keeps what arrived of a dump whose transfer was stopped, if anything did, as a file that can be
-    /// imported. Changes no document.
-    static void handleTransferStopped(const QByteArray& dump);
-
 Q_SIGNALS:
     /// Tours came or went.
     void toursArrayChanged();

@@ -1,32 +1,24 @@
 #include "decode/OdoData.h"
+#include "device/OdoCom.h"
 #include "library/DefaultsKeys.h"
 #include "library/LibraryLog.h"
 #include "library/MyDocument.h"
+#include "library/RawDump.h"
 #include "platform/Defaults.h"
-#include "platform/WholeFile.h"
-
-#include <QDir>
 
 #include <memory>
 #include <unordered_set>
 #include <utility>
 
 namespace ridelog {
+
+static_assert(OdoCom::wholeDump == DumpLayout::dumpSize, "a transfer ends with a whole dump");
+
 namespace {
 
 QString addingTours(std::size_t count)
 {
     return QStringLiteral("adding %1 tours").arg(count);
-}
-
-/// In the home folder, in the place of what was kept there before.
-void keepRawDump(const QString& name, const QByteArray& dump)
-{
-    const auto path = QDir::home().filePath(name);
-    qCDebug(lcLibrary, "Write raw data to: %s", qUtf8Printable(path));
-    if (const auto error = writeWholeFile(path, dump))
-        qCWarning(lcLibrary, "Could not write raw data to: %s: %s", qUtf8Printable(path),
-                  qUtf8Printable(*error));
 }
 
 } // namespace
@@ -97,15 +89,9 @@ MyDocument::Import MyDocument::handleTransferFinished(const QByteArray& dump, co
     qCDebug(lcLibrary, "[handleTransferFinished]");
     qCDebug(lcLibrary, "data received %lld", static_cast<long long>(dump.size()));
     if (_defaults && _defaults->boolForKey(DefaultsKeys::saveRawData))
-        keepRawDump(QStringLiteral("odoData.odo"), dump);
+        keepFinishedDump(dump);
     const UndoGroup oneStep(_undoManager);
     return mergeDump(OdoData::initWithData(dump, now));
-}
-
-void MyDocument::handleTransferStopped(const QByteArray& dump)
-{
-    if (!dump.isEmpty())
-        keepRawDump(QStringLiteral("odoData.odo.tmp"), dump);
 }
 
 MyDocument::Import MyDocument::mergeDump(const OdoData& dump)

@@ -1,6 +1,7 @@
 // How dumps reach a document: the merge and the two roads into it.
 
 #include "library/DefaultsKeys.h"
+#include "library/RawDump.h"
 #include "platform/Defaults.h"
 #include "tests/support/Documents.h"
 #include "tests/support/LogCapture.h"
@@ -203,9 +204,11 @@ TEST_F(DocumentTransfer, AWholeDumpIsMergedAndKept)
 
 TEST_F(DocumentTransfer, WhatArrivedOfAStoppedOneIsKeptApart)
 {
-    MyDocument::handleTransferStopped({});
+    EXPECT_FALSE(keepStoppedDump({}));
     EXPECT_FALSE(QFile::exists(folder.path("odoData.odo.tmp")));
-    MyDocument::handleTransferStopped(dump.first(1000));
+    const auto kept = keepStoppedDump(dump.first(1000));
+    EXPECT_EQ(kept->path, folder.path("odoData.odo.tmp"));
+    EXPECT_TRUE(kept->error.isEmpty());
     EXPECT_EQ(content("odoData.odo.tmp"), dump.first(1000));
 }
 

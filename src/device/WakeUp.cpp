@@ -1,0 +1,41 @@
+#include "device/WakeUp.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdint>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+namespace ridelog {
+
+WakeUp::WakeUp() : _descriptor(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
+
+WakeUp::~WakeUp()
+{
+    if (_descriptor >= 0)
+        ::close(_descriptor);
+}
+
+void WakeUp::wake()
+{
+    _isWoken = true;
+    const std::uint64_t one = 1;
+    // It cannot fail but for a counter that is full, and then all are awake.
+    [[maybe_unused]] const auto written = ::write(_descriptor, &one, sizeof one);
+}
+
+bool WakeUp::waitFor(int descriptor, short events) const
+{
+    // Without the means to be woken nothing is waited for.
+    if (_descriptor < 0)
+        return false;
+    std::array<pollfd, 2> waits{{{descriptor, events, 0}, {_descriptor, POLLIN, 0}}};
+    int ready = 0;
+    do {
+        ready = poll(waits.data(), waits.size(), -1);
+    } while (ready < 0 && errno == EINTR);
+    return ready > 0 && waits[1].revents == 0 && (waits[0].revents & POLLNVAL) == 0;
+}
+
+} // namespace ridelog

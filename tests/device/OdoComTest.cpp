@@ -1,0 +1,212 @@
+#include "device/OdoCom.h"
+
+#include "device/PortProblem.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/Process.h"
+#include "tests/support/PseudoTerminal.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <QStringList>
+
+#include <cerrno>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace ridelog {
+namespace {
+
+class Rider : public OdoComDelegate {
+public:
+    explicit Rider(bool wantsProgress = true) : _wantsProgress(wantsProgress) {}
+    bool handlesTransferProgress() const override { return _wantsProgress; }
+    void handleTransferStarted() override { heard += QStringLiteral("started"); }
+    void handleTransferProgress(std::int32_t bytes) override
+    {
+        if (counted == 0)
+            heard += QStringLiteral("progress");
+        counted += bytes;
+    }
+    void handleTransferFinished() override { heard += QStringLiteral("finished"); }
+    void handleTransferBrokenOff() override { heard += QStringLiteral("broken off"); }
+
+    bool hasHeard(const char* word) const { return heard.contains(QString::fromLatin1(word)); }
+
+    QStringList heard;
+    qint64 counted = 0;
+
+private:
+    bool _wantsProgress;
+};
+
+QByteArray dumpOf(qsizetype size)
+{
+    return QByteArray("AFRO ").leftJustified(size, '7', true);
+}
+
+TEST(OdoCom, CollectsAWholeDump)
+{
+    const PseudoTerminal line;
+    Rider rider;
+    OdoCom session(line.path());
+    session.setDelegate(&rider);
+    ASSERT_TRUE(session.startReading());
+    EXPECT_FALSE(session.startReading()) << "it has its port";
+    const auto dump = dumpOf(OdoCom::wholeDump);
+    ASSERT_TRUE(line.send(dump.chopped(1)));
+    ASSERT_TRUE(eventually([&] { return session.odoData().size() == dump.size() - 1; }));
+    EXPECT_FALSE(rider.hasHeard("finished"));
+    ASSERT_TRUE(line.send("7more"));
+    ASSERT_TRUE(eventually([&] { return rider.hasHeard("finished"); }));
+    EXPECT_EQ(session.odoData(), dump + "more");
+    EXPECT_EQ(rider.heard, (QStringList{QStringLiteral("started"), QStringLiteral("progress"),
+                                        QStringLiteral("finished")}));
+    EXPECT_EQ(rider.counted, session.odoData().size());
+}
+
+TEST(OdoCom, ProgressIsForThoseWhoWantIt)
+{
+    const PseudoTerminal line;
+    Rider rider(false);
+    const LogCapture log;
+    OdoCom session(line.path());
+    session.setDelegate(&rider);
+    session.setDelegate(&rider);
+    EXPECT_EQ(log.lines(), QStringList{QStringLiteral("delegateHandlesProgress 0")});
+    ASSERT_TRUE(session.startReading());
+    ASSERT_TRUE(line.send(dumpOf(OdoCom::wholeDump)));
+    ASSERT_TRUE(eventually([&] { return rider.hasHeard("finished"); }));
+    EXPECT_EQ(rider.heard, (QStringList{QStringLiteral("started"), QStringLiteral("finished")}));
+}
+
+TEST(OdoCom, SetsTheLineForTheDevice)
+{
+    for (const auto stopBits : {OdoCom::StopBits::one, OdoCom::StopBits::two}) {
+        const PseudoTerminal line;
+        auto before = line.settings();
+        before.c_lflag |= ECHO; // as somebody has set it up
+        cfsetospeed(&before, B300);
+        tcsetattr(line.end(), TCSANOW, &before);
+        OdoCom session(line.path(), stopBits);
+        ASSERT_TRUE(session.startReading());
+        const auto set = line.settings();
+        EXPECT_EQ(cfgetospeed(&set), speed_t{B9600});
+        EXPECT_EQ(set.c_cflag & (CSIZE | PARENB), tcflag_t{CS8});
+        EXPECT_EQ((set.c_cflag & CSTOPB) != 0, stopBits == OdoCom::StopBits::two);
+        EXPECT_EQ(set.c_lflag, before.c_lflag);
+        EXPECT_EQ(set.c_iflag, before.c_iflag);
+    }
+}
+
+TEST(OdoCom, ADumpGetsThroughALineAsTheSystemHandsItOut)
+{
+    const PseudoTerminal line(PseudoTerminal::Line::asHandedOut);
+    Rider rider;
+    OdoCom session(line.path());
+    session.setDelegate(&rider);
+    ASSERT_TRUE(session.startReading());
+    const auto dump = dumpOf(OdoCom::wholeDump);
+    ASSERT_TRUE(line.send(dump));
+    ASSERT_TRUE(eventually([&] { return rider.hasHeard("finished"); }));
+    EXPECT_EQ(session.odoData(), dump);
+    EXPECT_TRUE(line.received().isEmpty()) << "nothing is sent to the device";
+}
+
+TEST(OdoCom, APortThatCannotBeHadStartsNothing)
+{
+    const LogCapture log;
+    OdoCom session(QStringLiteral("/dev/no-such-port"));
+    EXPECT_FALSE(session.startReading());
+    EXPECT_FALSE(session.port());
+    EXPECT_EQ(session.openError(), ENOENT);
+    EXPECT_EQ(log.lines().first(), QStringLiteral("attempting to open port"));
+    EXPECT_EQ(log.errors().last(), QStringLiteral("couldn't open port for device "));
+
+    const PseudoTerminal line;
+    OdoCom first(line.path());
+    OdoCom second(line.path());
+    ASSERT_TRUE(first.startReading());
+    EXPECT_FALSE(second.startReading());
+    EXPECT_EQ(second.openError(), EBUSY);
+}
+
+TEST(OdoCom, AHangUpEndsTheTransfer)
+{
+    for (const qsizetype sent : {0, 5000}) {
+        PseudoTerminal line;
+        Rider rider;
+        const LogCapture log;
+        OdoCom session(line.path());
+        session.setDelegate(&rider);
+        ASSERT_TRUE(session.startReading());
+        ASSERT_TRUE(line.send(dumpOf(sent)));
+        ASSERT_TRUE(eventually([&] { return session.odoData().size() == sent; }));
+        line.hangUp();
+        ASSERT_TRUE(eventually([&] { return rider.hasHeard("broken off"); }));
+        EXPECT_EQ(log.lines().last(), QStringLiteral("port closed\r"));
+        EXPECT_FALSE(rider.hasHeard("finished"));
+        EXPECT_EQ(session.odoData().size(), sent);
+    }
+}
+
+TEST(OdoCom, AStoppedTransferKeepsWhatArrived)
+{
+    const PseudoTerminal line;
+    Rider rider;
+    OdoCom session(line.path());
+    session.setDelegate(&rider);
+    ASSERT_TRUE(session.startReading());
+    ASSERT_TRUE(line.send(dumpOf(5000)));
+    ASSERT_TRUE(eventually([&] { return session.odoData().size() == 5000 && isAnyThreadPolling(); }));
+    session.stopReading();
+    ASSERT_TRUE(line.send(dumpOf(100)));
+    ASSERT_TRUE(eventually([&] { return session.port()->numberOfReadInBackgroundThreads() == 0; }));
+    EXPECT_EQ(session.odoData(), dumpOf(5000));
+    EXPECT_FALSE(rider.hasHeard("finished") || rider.hasHeard("broken off"));
+}
+
+TEST(OdoCom, TwoHundredTransfersLeaveNothingBehind)
+{
+    const PseudoTerminal line;
+    const auto dump = dumpOf(OdoCom::wholeDump);
+    // Destroyed from its own message, as a window does it
+    struct Window : Rider {
+        void handleTransferFinished() override { session.reset(); }
+        std::unique_ptr<OdoCom> session;
+    };
+    Window window;
+    qsizetype threadsBefore = 0;
+    qsizetype descriptorsBefore = 0;
+    for (int i = 0; i < 200; ++i) {
+        window.session = std::make_unique<OdoCom>(line.path());
+        window.session->setDelegate(&window);
+        ASSERT_TRUE(window.session->startReading());
+        ASSERT_TRUE(line.send(dump));
+        ASSERT_TRUE(eventually([&] { return !window.session; }));
+        if (i == 0) {
+            threadsBefore = threads().size();
+            descriptorsBefore = openDescriptors();
+        }
+    }
+    EXPECT_EQ(window.counted, 200 * dump.size());
+    EXPECT_TRUE(eventually([&] { return threads().size() <= threadsBefore; }));
+    EXPECT_LE(openDescriptors(), descriptorsBefore);
+}
+
+TEST(PortProblem, HasOneMessageForOneCause)
+{
+    const TemporaryFolder folder;
+    const auto file = folder.write("plain", "no serial line");
+    EXPECT_EQ(whyPortFailed(folder.path(), EISDIR), QStringLiteral("a folder, not a serial port"));
+    EXPECT_EQ(whyPortFailed(file, EACCES), QStringLiteral("not a serial port"));
+    EXPECT_EQ(whyPortFailed(QStringLiteral("/dev/null"), ENOTTY), QStringLiteral("not a serial port"));
+    EXPECT_EQ(whyPortFailed(QStringLiteral("/dev/no-such-port"), ENOENT),
+              QStringLiteral("there is no such port"));
+    EXPECT_EQ(whyPortFailed(QStringLiteral("/dev/null"), EBUSY), QStringLiteral("in use by another program"));
+    EXPECT_EQ(whyTransferBrokeOff(0, 81'930),
+              QStringLiteral("the port was closed or unplugged before anything arrived"));
+    EXPECT_EQ(whyTransferFellSilent(40'960, 81'930, 5),
+              QStringLiteral("the device fell silent after 40,960 of 81,930 bytes: nothing for 5 seconds"));
+}
+
+} // namespace
+} // namespace ridelog
