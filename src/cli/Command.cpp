@@ -6,6 +6,7 @@
 #include "cli/ListCommand.h"
 #include "cli/MakeDumpCommand.h"
 #include "cli/ShowCommand.h"
+#include "cli/SimulateCommand.h"
 #include "cli/Wording.h"
 #include "platform/JsonWriter.h"
 
@@ -36,6 +37,7 @@ const std::vector<std::unique_ptr<const Command>>& allCommands()
         list.push_back(std::make_unique<ShowCommand>());
         list.push_back(std::make_unique<EditCommand>());
         list.push_back(std::make_unique<MakeDumpCommand>());
+        list.push_back(std::make_unique<SimulateCommand>());
         return list;
     }();
     return commands;
