@@ -5,6 +5,8 @@
 #include "cli/InspectCommand.h"
 #include "cli/ListCommand.h"
 #include "cli/MakeDumpCommand.h"
+#include "cli/PortsCommand.h"
+#include "cli/ReceiveCommand.h"
 #include "cli/ShowCommand.h"
 #include "cli/SimulateCommand.h"
 #include "cli/Wording.h"
@@ -36,6 +38,8 @@ const std::vector<std::unique_ptr<const Command>>& allCommands()
         list.push_back(std::make_unique<ListCommand>());
         list.push_back(std::make_unique<ShowCommand>());
         list.push_back(std::make_unique<EditCommand>());
+        list.push_back(std::make_unique<PortsCommand>());
+        list.push_back(std::make_unique<ReceiveCommand>());
         list.push_back(std::make_unique<MakeDumpCommand>());
         list.push_back(std::make_unique<SimulateCommand>());
         return list;

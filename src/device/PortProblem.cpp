@@ -24,9 +24,10 @@ QString whyNoPermission(const struct stat& device)
 {
     const auto group = helpfulGroup(device);
     if (group.isEmpty())
-        return QStringLiteral("no permission to read and write it");
-    return QStringLiteral("no permission: it is open to the group \"%1\" (join it with \"sudo usermod -aG %1 "
-                          "$USER\", then log out and in again)")
+        return QStringLiteral("permission denied");
+    return QStringLiteral(
+               "permission denied. Add yourself to the group %1 (sudo usermod -aG %1 $USER), then log "
+               "out and in again")
         .arg(group);
 }
 
@@ -54,7 +55,7 @@ QString whyPortFailed(const QString& path, int error)
         return QStringLiteral("there is no such port");
     case EACCES:
     case EPERM:
-        return isThere ? whyNoPermission(found) : QStringLiteral("no permission to look for it there");
+        return isThere ? whyNoPermission(found) : QStringLiteral("permission denied");
     case EBUSY:
         return QStringLiteral("in use by another program");
     case ENOTTY:

@@ -1,7 +1,7 @@
 #include "device/KSSerialPort.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/Process.h"
-#include "tests/support/PseudoTerminal.h"
+#include "tests/support/SerialLine.h"
 
 #include <QList>
 #include <QThread>
@@ -55,7 +55,7 @@ protected:
         return port->numberOfReadInBackgroundThreads() == 0 && port->numberOfWriteInBackgroundThreads() == 0;
     }
 
-    PseudoTerminal line;
+    SerialLine line;
     Listener listener;
     std::shared_ptr<KSSerialPort> port;
 };

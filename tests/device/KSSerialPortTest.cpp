@@ -2,7 +2,7 @@
 
 #include "tests/support/LogCapture.h"
 #include "tests/support/Process.h"
-#include "tests/support/PseudoTerminal.h"
+#include "tests/support/SerialLine.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <cerrno>
@@ -18,14 +18,14 @@ using namespace SerialOptionKeys;
 
 const QString name = QStringLiteral("line");
 
-std::shared_ptr<KSSerialPort> portOf(const PseudoTerminal& line)
+std::shared_ptr<KSSerialPort> portOf(const SerialLine& line)
 {
     return KSSerialPort::init(line.path(), name);
 }
 
 TEST(KSSerialPort, SettingsReachTheDeviceWithTheCommitAndGoBackWithTheClose)
 {
-    const PseudoTerminal line(PseudoTerminal::Line::asHandedOut);
+    const SerialLine line(SerialLine::Line::asHandedOut);
     const auto before = line.settings();
     const auto port = portOf(line);
     port->setSpeed(300);
@@ -60,7 +60,7 @@ TEST(KSSerialPort, SettingsReachTheDeviceWithTheCommitAndGoBackWithTheClose)
 
 TEST(KSSerialPort, AnySpeedCanBeSet)
 {
-    const PseudoTerminal line;
+    const SerialLine line;
     const auto port = portOf(line);
     ASSERT_TRUE(port->open());
     for (const int speed : {50, 1200, 115200, 4'000'000, 10'400, 31'250}) {
@@ -102,7 +102,7 @@ TEST(KSSerialPort, QueriesAnswerWhatWasSet)
 
 TEST(KSSerialPort, OptionsAreMergedAndCommitted)
 {
-    const PseudoTerminal line(PseudoTerminal::Line::asHandedOut);
+    const SerialLine line(SerialLine::Line::asHandedOut);
     const auto port = portOf(line);
     ASSERT_TRUE(port->open());
     port->setEchoEnabled(false);
@@ -165,7 +165,7 @@ TEST(KSSerialPort, TellsWhyItCannotBeOpened)
 
 TEST(KSSerialPort, OneProgramAtATimeClaimsTheDevice)
 {
-    const PseudoTerminal line;
+    const SerialLine line;
     const auto first = portOf(line);
     const auto second = portOf(line);
     ASSERT_TRUE(first->open() && second->open());
@@ -186,7 +186,7 @@ TEST(KSSerialPort, OneProgramAtATimeClaimsTheDevice)
 
 TEST(KSSerialPort, HasOneOwnerAtATime)
 {
-    const PseudoTerminal line;
+    const SerialLine line;
     const auto port = portOf(line);
     const int one = 0;
     const int two = 0;
@@ -202,7 +202,7 @@ TEST(KSSerialPort, HasOneOwnerAtATime)
 
 TEST(KSSerialPort, ClosesItsDescriptorOnceAndOnlyThen)
 {
-    const PseudoTerminal line;
+    const SerialLine line;
     const auto descriptors = openDescriptors();
     auto port = portOf(line);
     {
@@ -228,7 +228,7 @@ TEST(KSSerialPort, ClosesItsDescriptorOnceAndOnlyThen)
 
 TEST(KSSerialPort, FlushesAndDrains)
 {
-    const PseudoTerminal line;
+    const SerialLine line;
     const auto port = portOf(line);
     ASSERT_TRUE(port->open());
     ASSERT_TRUE(line.send("stale"));

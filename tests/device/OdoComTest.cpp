@@ -3,7 +3,7 @@
 #include "device/PortProblem.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/Process.h"
-#include "tests/support/PseudoTerminal.h"
+#include "tests/support/SerialLine.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <QStringList>
@@ -45,7 +45,7 @@ QByteArray dumpOf(qsizetype size)
 
 TEST(OdoCom, CollectsAWholeDump)
 {
-    const PseudoTerminal line;
+    const SerialLine line;
     Rider rider;
     OdoCom session(line.path());
     session.setDelegate(&rider);
@@ -65,7 +65,7 @@ TEST(OdoCom, CollectsAWholeDump)
 
 TEST(OdoCom, ProgressIsForThoseWhoWantIt)
 {
-    const PseudoTerminal line;
+    const SerialLine line;
     Rider rider(false);
     const LogCapture log;
     OdoCom session(line.path());
@@ -81,7 +81,7 @@ TEST(OdoCom, ProgressIsForThoseWhoWantIt)
 TEST(OdoCom, SetsTheLineForTheDevice)
 {
     for (const auto stopBits : {OdoCom::StopBits::one, OdoCom::StopBits::two}) {
-        const PseudoTerminal line;
+        const SerialLine line;
         auto before = line.settings();
         before.c_lflag |= ECHO; // as somebody has set it up
         cfsetospeed(&before, B300);
@@ -99,7 +99,7 @@ TEST(OdoCom, SetsTheLineForTheDevice)
 
 TEST(OdoCom, ADumpGetsThroughALineAsTheSystemHandsItOut)
 {
-    const PseudoTerminal line(PseudoTerminal::Line::asHandedOut);
+    const SerialLine line(SerialLine::Line::asHandedOut);
     Rider rider;
     OdoCom session(line.path());
     session.setDelegate(&rider);
@@ -121,7 +121,7 @@ TEST(OdoCom, APortThatCannotBeHadStartsNothing)
     EXPECT_EQ(log.lines().first(), QStringLiteral("attempting to open port"));
     EXPECT_EQ(log.errors().last(), QStringLiteral("couldn't open port for device "));
 
-    const PseudoTerminal line;
+    const SerialLine line;
     OdoCom first(line.path());
     OdoCom second(line.path());
     ASSERT_TRUE(first.startReading());
@@ -132,7 +132,7 @@ TEST(OdoCom, APortThatCannotBeHadStartsNothing)
 TEST(OdoCom, AHangUpEndsTheTransfer)
 {
     for (const qsizetype sent : {0, 5000}) {
-        PseudoTerminal line;
+        SerialLine line;
         Rider rider;
         const LogCapture log;
         OdoCom session(line.path());
@@ -150,7 +150,7 @@ TEST(OdoCom, AHangUpEndsTheTransfer)
 
 TEST(OdoCom, AStoppedTransferKeepsWhatArrived)
 {
-    const PseudoTerminal line;
+    const SerialLine line;
     Rider rider;
     OdoCom session(line.path());
     session.setDelegate(&rider);
@@ -166,7 +166,7 @@ TEST(OdoCom, AStoppedTransferKeepsWhatArrived)
 
 TEST(OdoCom, TwoHundredTransfersLeaveNothingBehind)
 {
-    const PseudoTerminal line;
+    const SerialLine line;
     const auto dump = dumpOf(OdoCom::wholeDump);
     // Destroyed from its own message, as a window does it
     struct Window : Rider {

@@ -15,11 +15,11 @@
 namespace ridelog {
 
 /// A serial line whose other end is in the test's hands.
-class PseudoTerminal {
+class SerialLine {
 public:
     /// As the system hands it out, it is made for people who type; raw, every byte passes as it is.
     enum class Line { raw, asHandedOut };
-    explicit PseudoTerminal(Line line = Line::raw)
+    explicit SerialLine(Line line = Line::raw)
         : _end(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC))
     {
         std::array<char, 64> name{};
@@ -33,9 +33,9 @@ public:
             tcsetattr(_end, TCSANOW, &raw);
         }
     }
-    ~PseudoTerminal() { hangUp(); }
-    PseudoTerminal(const PseudoTerminal&) = delete;
-    PseudoTerminal& operator=(const PseudoTerminal&) = delete;
+    ~SerialLine() { hangUp(); }
+    SerialLine(const SerialLine&) = delete;
+    SerialLine& operator=(const SerialLine&) = delete;
 
     QString path() const { return _path; }
     int end() const { return _end; }
@@ -67,6 +67,14 @@ public:
         const auto count = ::read(_end, bytes.data(), static_cast<std::size_t>(bytes.size()));
         bytes.resize(std::max<ssize_t>(count, 0));
         return bytes;
+    }
+
+    /// Drops what an earlier reader has not taken.
+    void forget() const
+    {
+        const int reader = ::open(qPrintable(_path), O_RDWR | O_NOCTTY | O_CLOEXEC);
+        tcflush(reader, TCIOFLUSH);
+        ::close(reader);
     }
 
     /// As when the adapter is pulled out.

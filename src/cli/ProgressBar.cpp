@@ -1,0 +1,51 @@
+#include "cli/ProgressBar.h"
+
+#include "cli/Wording.h"
+
+#include <QByteArray>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+namespace ridelog {
+
+ProgressBar::ProgressBar() : _isTerminal(isatty(STDERR_FILENO) == 1)
+{
+    winsize size{};
+    if (_isTerminal && ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0)
+        _columns = size.ws_col;
+}
+
+ProgressBar::~ProgressBar()
+{
+    write(QString());
+}
+
+void ProgressBar::wait(const QString& text)
+{
+    write(text);
+}
+
+void ProgressBar::show(double done, const QString& text)
+{
+    constexpr int width = 24;
+    const auto full = static_cast<int>(std::floor(std::clamp(done, 0.0, 1.0) * width));
+    write(QStringLiteral("[%1%2] %3").arg(QString(full, u'#'), QString(width - full, u'.'), text));
+}
+
+void ProgressBar::write(const QString& line) const
+{
+    if (!_isTerminal)
+        return;
+    constexpr auto toLineStart = "\r";
+    constexpr auto clearToEnd = "\x1b[K";
+    // A line that reaches the last column would be wrapped.
+    const auto bytes =
+        toLineStart + elided(printable(line), std::max(_columns - 1, 1)).toLocal8Bit() + clearToEnd;
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);
+}
+
+} // namespace ridelog
