@@ -5,7 +5,6 @@
 #include <QByteArray>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -32,8 +31,12 @@ void ProgressBar::wait(const QString& text)
 void ProgressBar::show(double done, const QString& text)
 {
     constexpr int width = 24;
-    const auto full = static_cast<int>(std::floor(std::clamp(done, 0.0, 1.0) * width));
-    write(QStringLiteral("[%1%2] %3").arg(QString(full, u'#'), QString(width - full, u'.'), text));
+    const auto part = std::clamp(done, 0.0, 1.0);
+    const auto full = static_cast<int>(part * width);
+    write(QStringLiteral("[%1%2] %3 %  %4")
+              .arg(QString(full, u'#'), QString(width - full, u'.'))
+              .arg(static_cast<int>(part * 100))
+              .arg(text));
 }
 
 void ProgressBar::write(const QString& line) const

@@ -16,7 +16,7 @@ public:
 
     /// Shows a text alone, while nothing can be measured yet.
     void wait(const QString& text);
-    /// Shows how much of the whole is done, from 0 to 1, as a bar with the text behind it.
+    /// Shows how much of the whole is done, from 0 to 1, as a bar and in percent, with the text behind it.
     void show(double done, const QString& text);
 
 private:
