@@ -1,5 +1,7 @@
 #include "cli/MakeDumpCommand.h"
 
+#include "cli/DumpTarget.h"
+#include "cli/TourSource.h"
 #include "platform/WholeFile.h"
 #include "simulator/RideGenerator.h"
 
@@ -60,6 +62,8 @@ ExitStatus MakeDumpCommand::execute(const CommandContext& context) const
     if (path.isEmpty())
         return wrongWords(*this, QStringLiteral("-o is missing: the file to write"));
 
+    if (TourSource::holdsDocument(path))
+        return refuse(path, *whyNoDumpTarget(path));
     if (const auto error = writeWholeFile(path, generator.dump()))
         return fail(path, *error);
     return ExitStatus::done;

@@ -1,22 +1,17 @@
 #include "cli/ProgressBar.h"
 
+#include "cli/StandardError.h"
 #include "cli/Wording.h"
 
 #include <QByteArray>
 
 #include <algorithm>
-#include <cstdio>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace ridelog {
 
-ProgressBar::ProgressBar() : _isTerminal(isatty(STDERR_FILENO) == 1)
-{
-    winsize size{};
-    if (_isTerminal && ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0)
-        _columns = size.ws_col;
-}
+ProgressBar::ProgressBar() : _isTerminal(isatty(STDERR_FILENO) == 1) {}
 
 ProgressBar::~ProgressBar()
 {
@@ -45,10 +40,12 @@ void ProgressBar::write(const QString& line) const
         return;
     constexpr auto toLineStart = "\r";
     constexpr auto clearToEnd = "\x1b[K";
+    winsize size{};
+    const bool isKnown = ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
     // A line that reaches the last column would be wrapped.
-    const auto bytes =
-        toLineStart + elided(printable(line), std::max(_columns - 1, 1)).toLocal8Bit() + clearToEnd;
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);
+    const int room = (isKnown ? size.ws_col : 80) - 1;
+    const auto bytes = toLineStart + elided(printable(line), room).toLocal8Bit() + clearToEnd;
+    tellIfRead(bytes);
 }
 
 } // namespace ridelog

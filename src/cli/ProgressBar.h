@@ -23,7 +23,6 @@ private:
     void write(const QString& line) const;
 
     bool _isTerminal;
-    int _columns = 80;
 };
 
 } // namespace ridelog

@@ -1,13 +1,17 @@
 #include "cli/ReceiveCommand.h"
 
 #include "cli/DocumentChange.h"
+#include "cli/DumpTarget.h"
 #include "cli/Reception.h"
+#include "cli/StopSignals.h"
+#include "cli/TourSource.h"
 #include "cli/Wording.h"
 #include "decode/OdoData.h"
 #include "library/RawDump.h"
 #include "platform/WholeFile.h"
 
 #include <QCommandLineParser>
+#include <QDir>
 #include <QFileInfo>
 #include <QLocale>
 
@@ -20,47 +24,52 @@ const QString intoName = QStringLiteral("into");
 const QString twoStopBitsName = QStringLiteral("two-stop-bits");
 const QString timeoutName = QStringLiteral("timeout");
 
-/// Whether the file could be written in an hour as well as now: a transfer takes its time.
-std::optional<QString> whyNotToBeWritten(const QString& path)
+/// Whatever would keep the dump from its place, so that it is said before anybody waits for it.
+std::optional<ExitStatus> refuseBeforehand(const QString& output, const QString& into)
 {
-    if (auto reason = whyNoFile(path))
-        return reason;
-    const QFileInfo folder(QFileInfo(targetOfPath(path)).path());
-    if (!folder.isDir())
-        return QStringLiteral("there is no folder of this name");
-    if (!folder.isWritable())
-        return QStringLiteral("its folder is not to be written");
+    if (!output.isEmpty()) {
+        if (TourSource::holdsDocument(output))
+            return refuse(output, *whyNoDumpTarget(output));
+        if (const auto reason = whyNotWritable(output))
+            return fail(output, *reason);
+        if (!into.isEmpty() && targetOfPath(output) == targetOfPath(into))
+            return refuse(output, QStringLiteral("the dump and the document cannot be one file"));
+    }
+    if (!into.isEmpty()) {
+        if (const auto reason = whyNotWritable(into))
+            return fail(into, *reason);
+    }
+    // Where whatever is no whole dump is kept, and a dump without another place.
+    if (const QFileInfo home(QDir::homePath()); !home.isDir() || !home.isWritable())
+        return fail(home.filePath(),
+                    QStringLiteral("the home folder is not to be written, where dumps are kept"));
     return std::nullopt;
 }
 
 /// Keeps what is no whole dump, so that nothing that was sent is lost, and ends the command.
 ExitStatus failWithPart(const QString& port, const QString& reason, const QByteArray& bytes)
 {
-    const auto kept = keepStoppedDump(bytes);
+    auto kept = keepStoppedDump(bytes);
     if (!kept)
         return fail(port, reason);
+    if (!kept->error.isEmpty()) {
+        // The home folder's disk is full, or has gone. There may be another one.
+        const auto elsewhere = QDir::temp().filePath(QFileInfo(kept->path).fileName());
+        if (!writeWholeFile(elsewhere, bytes))
+            kept = KeptDump{elsewhere, {}};
+    }
     if (!kept->error.isEmpty())
         return fail(port, QStringLiteral("%1; what arrived could not be kept in %2: %3")
                               .arg(reason, kept->path, kept->error));
     return fail(port, QStringLiteral("%1; what arrived is in %2").arg(reason, kept->path));
 }
 
-/// Keeps a whole dump under the name that was wished, else where the application keeps them. Answers the
-/// path, none where it cannot be written there.
-std::optional<QString> keep(const QByteArray& dump, const QString& wish)
+/// Keeps a whole dump under the name that was asked for, else where the application keeps them.
+KeptDump keep(const QByteArray& dump, const QString& output)
 {
-    if (wish.isEmpty()) {
-        const auto kept = keepFinishedDump(dump);
-        if (kept.error.isEmpty())
-            return kept.path;
-        fail(kept.path, kept.error);
-        return std::nullopt;
-    }
-    const auto error = writeWholeFile(wish, dump);
-    if (!error)
-        return wish;
-    failWithPart(wish, *error, dump);
-    return std::nullopt;
+    if (output.isEmpty())
+        return keepFinishedDump(dump);
+    return {output, writeWholeFile(output, dump).value_or(QString())};
 }
 
 /// Merges the dump and saves the document. Adds what there is to say of it, or ends the command.
@@ -78,6 +87,23 @@ std::optional<ExitStatus> merge(MyDocument& document, const QByteArray& dump, co
                      counted(static_cast<qsizetype>(merged.added), QStringLiteral("tour")))
                 .arg(merged.alreadyThere);
     return std::nullopt;
+}
+
+/// Keeps a whole dump and merges it, if there is a document for it.
+ExitStatus take(const QByteArray& dump, const QString& output, MyDocument* document, const QDateTime& now)
+{
+    const auto kept = keep(dump, output);
+    auto status = ExitStatus::done;
+    QString said;
+    if (kept.error.isEmpty())
+        said = QStringLiteral("%1: %2 bytes received\n")
+                   .arg(printable(kept.path), QLocale(QLocale::English).toString(dump.size()));
+    else
+        status = failWithPart(kept.path, kept.error, dump);
+    if (document)
+        status = merge(*document, dump, now, said).value_or(status);
+    const auto printed = print(said);
+    return status == ExitStatus::done ? printed : status;
 }
 
 } // namespace
@@ -117,57 +143,39 @@ ExitStatus ReceiveCommand::execute(const CommandContext& context) const
     const auto& options = context.options;
     const auto output = options.value(outputName);
     const auto into = options.value(intoName);
-    Reception::Wish wish;
-    wish.port = options.value(portName);
-    if (wish.port.isEmpty())
+    Reception::Request request;
+    request.port = options.value(portName);
+    if (request.port.isEmpty())
         return wrongWords(*this, QStringLiteral("--port is missing: the port that the device is on"));
-    if (output.isEmpty() && into.isEmpty())
-        return wrongWords(*this, QStringLiteral("-o or --into is missing: where the dump is to go"));
+    if ((options.isSet(outputName) && output.isEmpty()) || (options.isSet(intoName) && into.isEmpty()))
+        return wrongWords(*this, QStringLiteral("-o and --into take the name of a file"));
     if (options.isSet(twoStopBitsName))
-        wish.stopBits = OdoCom::StopBits::two;
+        request.stopBits = OdoCom::StopBits::two;
     if (options.isSet(timeoutName)) {
         constexpr double longest = 1'000'000;
         bool isNumber = false;
-        wish.patience = options.value(timeoutName).toDouble(&isNumber);
-        if (!isNumber || !(*wish.patience > 0 && *wish.patience <= longest))
-            return wrongWords(*this, QStringLiteral("--timeout takes a number of seconds above 0"));
+        request.patience = options.value(timeoutName).toDouble(&isNumber);
+        if (!isNumber || !(*request.patience > 0 && *request.patience <= longest))
+            return wrongWords(*this, QStringLiteral("--timeout takes seconds, above 0 and up to 1000000"));
     }
 
-    // Whatever would keep the dump from its place is said before anybody waits for it.
-    if (!output.isEmpty()) {
-        if (const auto reason = whyNotToBeWritten(output))
-            return fail(output, *reason);
-    }
+    Reception reception(request);
+    // From here on until everything is saved: a dump that somebody has waited for is not to be lost.
+    const StopSignals stopSignals([&reception] { reception.stop(); });
+    if (const auto status = refuseBeforehand(output, into))
+        return *status;
     MyDocument document;
     if (!into.isEmpty()) {
         if (const auto status = openToChange(document, into, MyDocument::Missing::startEmpty, context.now))
             return *status;
     }
-
-    Reception reception(wish);
     if (const auto failure = reception.run(); !failure.isEmpty())
-        return failWithPart(wish.port, failure, reception.dump());
-    const auto& dump = reception.dump();
-    // What is no dump at all takes the place of no file that was there.
-    if (!dump.startsWith(DumpLayout::signature))
-        return failWithPart(wish.port,
-                            QStringLiteral("complete, but not a raw dump of this device: it does not begin "
-                                           "with \"%1\"")
-                                .arg(QLatin1StringView(DumpLayout::signature)),
-                            dump);
-    const auto path = keep(dump, output);
-    if (const auto refusal = OdoData::initWithData(dump, context.now).refusal(); !refusal.isEmpty())
-        return fail(path.value_or(wish.port), refusal);
-    QString said;
-    if (path)
-        said = QStringLiteral("%1: %2 bytes received\n")
-                   .arg(printable(*path), QLocale(QLocale::English).toString(dump.size()));
-    if (!into.isEmpty()) {
-        if (const auto status = merge(document, dump, context.now, said))
-            return *status;
-    }
-    const auto status = print(said);
-    return path ? status : ExitStatus::failed;
+        return failWithPart(request.port, failure, reception.dump());
+    // What is no dump takes the place of no file that was there.
+    if (const auto refusal = OdoData::initWithData(reception.dump(), context.now).refusal();
+        !refusal.isEmpty())
+        return failWithPart(request.port, QStringLiteral("complete, but ") + refusal, reception.dump());
+    return take(reception.dump(), output, into.isEmpty() ? nullptr : &document, context.now);
 }
 
 } // namespace ridelog

@@ -1,8 +1,8 @@
 #include "cli/Reception.h"
 
-#include "cli/StopSignals.h"
 #include "device/PortProblem.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 
 #include <chrono>
@@ -25,41 +25,67 @@ QString roughly(double seconds)
 
 } // namespace
 
-Reception::Reception(const Wish& wish) : _wish(wish), _session(wish.port, wish.stopBits)
+Reception::Reception(const Request& request) : _request(request), _session(request.port, request.stopBits)
 {
     _session.setDelegate(this);
     _redraw.callOnTimeout([this] { showProgress(); });
-    if (_wish.patience) {
+    if (_request.patience) {
         _patience.setSingleShot(true);
-        _patience.setInterval(std::chrono::milliseconds(std::llround(*_wish.patience * 1000)));
-        _patience.callOnTimeout(
-            [this] { end(whyTransferFellSilent(dump().size(), OdoCom::wholeDump, *_wish.patience)); });
+        _patience.setTimerType(Qt::PreciseTimer);
+        _patience.setInterval(std::chrono::milliseconds(std::llround(*_request.patience * 1000)));
+        _patience.callOnTimeout([this] { endIfSilent(); });
     }
 }
 
 QString Reception::run()
 {
-    const StopSignals signals_([this] {
-        _session.stopReading();
-        end(whyTransferWasStopped(dump().size(), OdoCom::wholeDump));
-    });
     if (!_session.startReading())
-        return whyPortFailed(_wish.port, _session.openError());
+        return whyPortFailed(_request.port, _session.openError());
     _bar.emplace();
-    _bar->wait(QStringLiteral("Waiting for the device at %1 (Ctrl-C ends it)").arg(_wish.port));
-    if (_wish.patience)
+    _bar->wait(QStringLiteral("Waiting for the device at %1 (Ctrl-C ends it)").arg(_request.port));
+    if (_request.patience)
         _patience.start();
-    if (!_failure)
+    if (!_end)
         _loop.exec();
+    // What has been read from the line but not been added yet counts as well.
+    _session.stopReading();
+    _session.port()->close();
+    QCoreApplication::sendPostedEvents();
     _bar.reset();
-    return *_failure;
+    return dump().size() >= OdoCom::wholeDump ? QString() : reason();
 }
 
-void Reception::end(const QString& failure)
+void Reception::end(End how)
 {
-    if (!_failure)
-        _failure = failure;
+    if (!_end)
+        _end = how;
+    _redraw.stop();
+    _patience.stop();
     _loop.quit();
+}
+
+/// A program that was halted itself finds that much time has passed, and the line full.
+void Reception::endIfSilent()
+{
+    if (_session.port()->checkRead() == 1)
+        _patience.start();
+    else
+        end(End::silent);
+}
+
+QString Reception::reason() const
+{
+    const auto received = dump().size();
+    switch (*_end) {
+    case End::silent:
+        return whyTransferFellSilent(received, OdoCom::wholeDump, *_request.patience);
+    case End::stopped:
+        return whyTransferWasStopped(received, OdoCom::wholeDump);
+    case End::brokenOff:
+    case End::finished:
+        break;
+    }
+    return whyTransferBrokeOff(received, OdoCom::wholeDump);
 }
 
 void Reception::handleTransferStarted()
@@ -70,18 +96,8 @@ void Reception::handleTransferStarted()
 
 void Reception::handleTransferProgress(std::int32_t)
 {
-    if (_wish.patience)
+    if (_request.patience)
         _patience.start();
-}
-
-void Reception::handleTransferFinished()
-{
-    end(QString());
-}
-
-void Reception::handleTransferBrokenOff()
-{
-    end(whyTransferBrokeOff(dump().size(), OdoCom::wholeDump));
 }
 
 void Reception::showProgress()

@@ -14,38 +14,44 @@
 namespace ridelog {
 
 /// Waits at the terminal for one raw dump: shows the progress, and ends with the dump, with the line, with
-/// the user's patience or with Ctrl-C.
+/// the user's patience or when it is stopped.
 class Reception : private OdoComDelegate {
 public:
-    struct Wish {
+    struct Request {
         QString port;
         OdoCom::StopBits stopBits = OdoCom::StopBits::one;
         std::optional<double> patience; ///< seconds without a byte that are waited for; none: for ever
     };
-    explicit Reception(const Wish& wish);
+    explicit Reception(const Request& request);
 
     /// Runs until it ends. Empty with a whole dump, else why there is none, in words for people.
     QString run();
+    /// Also before it runs.
+    void stop() { end(End::stopped); }
     /// All that has arrived.
     const QByteArray& dump() const { return _session.odoData(); }
 
 private:
+    enum class End { finished, brokenOff, silent, stopped };
+
     void handleTransferStarted() override;
     bool handlesTransferProgress() const override { return true; }
     void handleTransferProgress(std::int32_t bytes) override;
-    void handleTransferFinished() override;
-    void handleTransferBrokenOff() override;
-    void end(const QString& failure);
+    void handleTransferFinished() override { end(End::finished); }
+    void handleTransferBrokenOff() override { end(End::brokenOff); }
+    void end(End how);
+    void endIfSilent();
+    QString reason() const;
     void showProgress();
 
-    Wish _wish;
+    const Request _request;
     OdoCom _session;
     QEventLoop _loop;
     QTimer _patience;
-    QElapsedTimer _sinceStart; ///< of the first byte
     QTimer _redraw;
+    QElapsedTimer _sinceStart; ///< of the first byte
     std::optional<ProgressBar> _bar;
-    std::optional<QString> _failure; ///< none while it runs
+    std::optional<End> _end; ///< none while it runs
 };
 
 } // namespace ridelog

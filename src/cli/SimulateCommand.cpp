@@ -1,5 +1,6 @@
 #include "cli/SimulateCommand.h"
 
+#include "cli/StandardError.h"
 #include "cli/StopSignals.h"
 #include "decode/OdoData.h"
 #include "platform/WholeFile.h"
@@ -60,8 +61,7 @@ std::optional<QString> readBytes(const QString& path, QByteArray& bytes)
 /// What happens, for people who watch. Nobody has to.
 void tell(const QString& event)
 {
-    const auto line = (event + u'\n').toUtf8();
-    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
+    tellIfRead((event + u'\n').toUtf8());
 }
 
 QString bytesText(qint64 bytes)

@@ -59,7 +59,7 @@ void StopSignals::handle(int signal, void (*handler)(int))
         return;
     struct sigaction action {};
     action.sa_handler = handler;
-    action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
+    action.sa_flags = SA_RESTART;
     ::sigaction(signal, &action, nullptr);
     _dispositions.push_back({signal, before});
 }

@@ -41,6 +41,8 @@ QString elided(const QString& text, qsizetype length)
 {
     if (text.size() <= length)
         return text;
+    if (length < 2)
+        return text.left(length);
     auto start = text.left(length - 1);
     if (start.back().isHighSurrogate())
         start.chop(1);

@@ -3,6 +3,7 @@
 #include "device/DeviceLog.h"
 #include "device/WakeUp.h"
 #include "platform/MainThread.h"
+#include "platform/SystemCall.h"
 
 #include <QFile>
 
@@ -12,6 +13,7 @@
 #include <sys/file.h>
 #include <sys/ioctl.h>
 #include <termios.h>
+#include <unistd.h>
 #include <utility>
 
 namespace ridelog {
@@ -20,20 +22,25 @@ Q_LOGGING_CATEGORY(lcDevice, "ridelog.device")
 
 namespace {
 
-template <typename Call>
-int uninterrupted(Call&& call)
-{
-    int result = 0;
-    do {
-        result = call();
-    } while (result < 0 && errno == EINTR);
-    return result;
-}
-
 bool setNonBlocking(int descriptor, bool on)
 {
     const int flags = fcntl(descriptor, F_GETFL);
     return flags >= 0 && fcntl(descriptor, F_SETFL, on ? flags | O_NONBLOCK : flags & ~O_NONBLOCK) == 0;
+}
+
+/// Claims the device in the way that most programs do. Answers 0 or the number of the error.
+int errorOfClaim(int descriptor)
+{
+    int isExclusive = 0;
+    // Who may everything may also open what another program has for itself.
+    if (ioctl(descriptor, TIOCGEXCL, &isExclusive) == 0 && isExclusive != 0)
+        return EBUSY;
+    // The terminal that we run in is no device.
+    if (tcgetsid(descriptor) == getsid(0))
+        return ENOTTY;
+    if (uninterrupted([descriptor] { return flock(descriptor, LOCK_EX | LOCK_NB); }) != 0)
+        return errno == EWOULDBLOCK ? EBUSY : errno;
+    return 0;
 }
 
 /// Logs what a call on the device has failed with.
@@ -64,13 +71,18 @@ KSSerialPort::~KSSerialPort() = default;
 void KSSerialPort::_letGo()
 {
     setDelegate(nullptr);
+    {
+        // Nobody is left to hear anything, and soon perhaps no main thread either.
+        const std::lock_guard messageLock(_messageLock);
+        _postsMessages = false;
+    }
     close();
     _dropReadTimer();
 }
 
 // Open and closed
 
-std::shared_ptr<SerialFileHandle> KSSerialPort::open()
+std::shared_ptr<SerialFileHandle> KSSerialPort::open(Claim claim)
 {
     if (isOpen())
         return _fileHandle;
@@ -81,11 +93,17 @@ std::shared_ptr<SerialFileHandle> KSSerialPort::open()
     });
     _openError = descriptor < 0 ? errno : 0;
     qCDebug(lcDevice, "open %s (%d)\n", qUtf8Printable(_bsdPath), descriptor);
-    if (descriptor < 0) {
+    auto wakeUp = std::make_shared<WakeUp>();
+    if (_openError == 0 && !wakeUp->isValid())
+        _openError = errno;
+    auto handle = std::make_shared<SerialFileHandle>(descriptor);
+    // First of all: the settings of a line that somebody else uses are not those to go back to.
+    if (_openError == 0 && claim == Claim::yes)
+        _openError = errorOfClaim(descriptor);
+    if (_openError != 0) {
         logError("Error opening serial port", _bsdPath, _openError);
         return nullptr;
     }
-    auto handle = std::make_shared<SerialFileHandle>(descriptor);
     _openError = _originalOptions.readFrom(descriptor);
     if (_openError == 0)
         _openError = _options.readFrom(descriptor);
@@ -96,36 +114,25 @@ std::shared_ptr<SerialFileHandle> KSSerialPort::open()
         return nullptr;
     }
     _fileHandle = handle;
-    _wakeUp = std::make_shared<WakeUp>();
+    _wakeUp = std::move(wakeUp);
     _fileDescriptor = descriptor;
     return handle;
-}
-
-bool KSSerialPort::claim()
-{
-    int isExclusive = 0;
-    // Who may everything may also open what another program has for itself.
-    if (ioctl(_fileDescriptor, TIOCGEXCL, &isExclusive) == 0 && isExclusive != 0)
-        _openError = EBUSY;
-    else if (uninterrupted([this] { return flock(_fileDescriptor, LOCK_EX | LOCK_NB); }) != 0)
-        _openError = errno == EWOULDBLOCK ? EBUSY : errno;
-    else
-        _openError = 0;
-    if (_openError != 0)
-        logError("Error claiming serial port", _bsdPath, _openError);
-    return _openError == 0;
 }
 
 void KSSerialPort::close()
 {
     if (!isOpen())
         return;
-    _endWaits();
-    const std::lock_guard descriptorLock(_descriptorLock);
-    const std::lock_guard closeLock(_closeLock);
     const int descriptor = _fileDescriptor;
+    // No thread may hold up the close. One that waits for the device is woken. One that is about to read or
+    // write, or stuck in it, looks at the mode again when the device gets new settings, and returns.
+    _wakeUp->wake();
+    if (!setNonBlocking(descriptor, true))
+        logError("Error clearing O_NONBLOCK", _bsdPath, errno);
     if (const int error = _originalOptions.applyTo(descriptor))
         qCWarning(lcDevice, "Error resetting tty attributes - %s(%d).\n", std::strerror(error), error);
+    const std::lock_guard descriptorLock(_descriptorLock);
+    const std::lock_guard closeLock(_closeLock);
     _dropReadTimer();
     _fileHandle->close();
     if (_fileHandle.use_count() > 1)
@@ -134,20 +141,6 @@ void KSSerialPort::close()
     qCDebug(lcDevice, "close (%d)\n", descriptor);
     _fileDescriptor = -1;
     _wakeUp.reset();
-}
-
-/// Gets the background threads away from the descriptor.
-void KSSerialPort::_endWaits()
-{
-    // Without waiting: neither may a write that is under way, nor the close.
-    if (!setNonBlocking(_fileDescriptor, true))
-        logError("Error clearing O_NONBLOCK", _bsdPath, errno);
-    _wakeUp->wake();
-    // A write that waits for a device that takes nothing looks at that mode when the output goes on.
-    if (_countWriteInBackgroundThreads > 0) {
-        tcflow(_fileDescriptor, TCOOFF);
-        tcflow(_fileDescriptor, TCOON);
-    }
 }
 
 // Who uses it

@@ -80,15 +80,16 @@ public:
 
     // Open and closed
 
+    /// Whether the device is taken for this port alone, among the programs that ask for that.
+    enum class Claim { no, yes };
     /// Takes over the device's settings. None on failure: `openError` has the reason.
-    std::shared_ptr<SerialFileHandle> open();
+    std::shared_ptr<SerialFileHandle> open(Claim claim = Claim::no);
     /// Gives the device back the settings that it had. Waiting reads end with an empty chunk.
     void close();
     bool isOpen() const { return _fileDescriptor >= 0; }
-    /// Number of the error with which `open` or `claim` failed last, 0 after success.
+    /// Number of the error with which `open` failed last, 0 after success. EBUSY for a device that somebody
+    /// else has claimed.
     int openError() const { return _openError; }
-    /// Claims the open device among the programs that do so. False if another one has claimed it.
-    bool claim();
 
     // Who uses it
 
@@ -135,14 +136,12 @@ public:
     void setHangupOnClose(bool on) { _options.set(Setting::hangupOnClose, on); }
     bool getLocal() const { return _options.test(Setting::local); }
     void setLocal(bool on) { _options.set(Setting::local, on); }
-    /// Whether input comes line by line, as it is made for people who type.
-    bool testLineInput() const { return _options.isLineInput(); }
-    /// Every byte comes as it is and at once, and none is answered.
-    void setRawInput() { _options.setRawInput(); }
+    void setInputAtOnce() { _options.setInputAtOnce(); } ///< see TerminalAttributes
 
     SerialOptions getOptions();
-    /// Sets and commits what the options say; those not told stay. Options for a port of another name are
-    /// refused.
+    /// Merges the options into those of `getOptions` and commits all of them. Speed and data bits without an
+    /// entry there stay; without one, parity, flow control and echo are off. Options for a port of another
+    /// name are refused.
     void setOptions(const SerialOptions& options);
     void buildOptionsDictionary();
 
@@ -170,7 +169,7 @@ public:
 
     /// Reads one chunk of at most 4,096 bytes as soon as there is one.
     void readDataInBackground();
-    /// A thread that waits for a chunk leaves it to the next one.
+    /// A thread that waits for a chunk leaves it to the next one that is asked for.
     void stopReadInBackground() { _stopReadInBackground = true; }
     int numberOfReadInBackgroundThreads() const { return _countReadInBackgroundThreads; }
     /// Writes a block. Progress is told once a second if it takes its time.
@@ -183,7 +182,6 @@ private:
 
     KSSerialPort(QString bsdPath, QString name);
     void _letGo();
-    void _endWaits();
 
     void doRead();
     void _startReadTimer();
@@ -194,6 +192,7 @@ private:
     void writeDataInBackgroundThread(const QByteArray& data, std::chrono::seconds estimate,
                                      const std::shared_ptr<const WakeUp>& wakeUp);
     qint64 _writeChunk(const char* bytes, qint64 count, const WakeUp& wakeUp) const;
+    void _post(std::function<void(KSSerialPort&)> message);
     void _postData(const QByteArray& data);
     void _postProgress(qint64 value, qint64 total);
 
@@ -217,7 +216,7 @@ private:
     bool _delegateHandlesWriteInBackground = false;
 
     // What the background threads share with the main thread. A thread takes _readLock or _writeLock, then
-    // one of the two others; `close` takes _descriptorLock and then _closeLock.
+    // one of the others; `close` takes _descriptorLock and then _closeLock.
 
     std::atomic<int> _fileDescriptor = -1;
     std::shared_ptr<WakeUp> _wakeUp; ///< one for each opening; none while closed
@@ -227,6 +226,8 @@ private:
     /// Held in common while the descriptor is waited for or written to, so that it is not closed under those
     /// who do.
     mutable std::shared_mutex _descriptorLock;
+    std::mutex _messageLock; ///< held to post a message, and to post no more
+    bool _postsMessages = true;
     std::atomic<bool> _stopReadInBackground = false;
     std::atomic<bool> _stopWriteInBackground = false;
     std::atomic<int> _countReadInBackgroundThreads = 0;

@@ -5,6 +5,7 @@
 #include "device/KSSerialPort.h"
 #include "device/WakeUp.h"
 #include "platform/MainThread.h"
+#include "platform/SystemCall.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -42,11 +43,8 @@ QString KSSerialPort::readString()
 qint64 KSSerialPort::writeString(const QString& text)
 {
     const auto bytes = text.toLatin1();
-    ssize_t written = 0;
-    do {
-        written = ::write(_fileDescriptor, bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    } while (written < 0 && errno == EINTR);
-    return written;
+    return uninterrupted(
+        [&] { return ::write(_fileDescriptor, bytes.constData(), static_cast<std::size_t>(bytes.size())); });
 }
 
 int KSSerialPort::checkRead() const
@@ -55,7 +53,7 @@ int KSSerialPort::checkRead() const
     if (wait.fd < 0)
         return -1;
     const timespec atMost{.tv_sec = 0, .tv_nsec = 1000};
-    const int ready = ppoll(&wait, 1, &atMost, nullptr);
+    const int ready = uninterrupted([&] { return ppoll(&wait, 1, &atMost, nullptr); });
     return ready > 0 && (wait.revents & POLLNVAL) != 0 ? -1 : ready;
 }
 
@@ -63,10 +61,8 @@ int KSSerialPort::checkRead() const
 QByteArray KSSerialPort::_readChunk() const
 {
     QByteArray chunk(largestChunk, Qt::Uninitialized);
-    ssize_t count = 0;
-    do {
-        count = ::read(_fileDescriptor, chunk.data(), static_cast<std::size_t>(largestChunk));
-    } while (count < 0 && errno == EINTR);
+    const auto count = uninterrupted(
+        [&] { return ::read(_fileDescriptor, chunk.data(), static_cast<std::size_t>(largestChunk)); });
     chunk.resize(std::max<ssize_t>(count, 0));
     return chunk;
 }
@@ -103,6 +99,7 @@ void KSSerialPort::doRead()
 void KSSerialPort::_dropReadTimer()
 {
     _readTarget = nullptr;
+    _readSelector = nullptr;
     if (_readTimer)
         _readTimer->stop();
     _readTimer.reset();
@@ -133,6 +130,8 @@ void KSSerialPort::readDataInBackground()
 {
     if (!_delegateHandlesReadInBackground)
         return;
+    // Not when the thread begins: a stop in between is for this read as well.
+    _stopReadInBackground = false;
     const auto work = [wakeUp = _wakeUp](KSSerialPort& port) { port.readDataInBackgroundThread(wakeUp); };
     if (!_startThread(_countReadInBackgroundThreads, work))
         _postData({});
@@ -141,7 +140,6 @@ void KSSerialPort::readDataInBackground()
 /// `wakeUp` tells whether the port is still open as it was when the thread was asked for.
 void KSSerialPort::readDataInBackgroundThread(const std::shared_ptr<const WakeUp>& wakeUp)
 {
-    _stopReadInBackground = false;
     const std::lock_guard readLock(_readLock);
     for (bool delivered = false; !delivered;) {
         bool isReady = false;
@@ -154,7 +152,7 @@ void KSSerialPort::readDataInBackgroundThread(const std::shared_ptr<const WakeUp
             return;
         const std::lock_guard closeLock(_closeLock);
         isReady = isReady && !wakeUp->isWoken();
-        // What had come may have been flushed: a read would then wait, and keep the port from being closed.
+        // What had come may have been flushed meanwhile.
         delivered = !isReady || checkRead() != 0;
         if (delivered)
             _postData(isReady ? _readChunk() : QByteArray());
@@ -165,6 +163,7 @@ void KSSerialPort::writeDataInBackground(const QByteArray& data)
 {
     if (!_delegateHandlesWriteInBackground)
         return;
+    _stopWriteInBackground = false;
     const int speed = getSpeed();
     const std::chrono::seconds estimate(speed > 0 ? data.size() * 8 / speed : 0);
     _startThread(_countWriteInBackgroundThreads, [wakeUp = _wakeUp, data, estimate](KSSerialPort& port) {
@@ -175,7 +174,6 @@ void KSSerialPort::writeDataInBackground(const QByteArray& data)
 void KSSerialPort::writeDataInBackgroundThread(const QByteArray& data, std::chrono::seconds estimate,
                                                const std::shared_ptr<const WakeUp>& wakeUp)
 {
-    _stopWriteInBackground = false;
     const std::lock_guard writeLock(_writeLock);
     bool showsProgress = estimate > shortWrite;
     if (showsProgress)
@@ -212,19 +210,26 @@ qint64 KSSerialPort::_writeChunk(const char* bytes, qint64 count, const WakeUp& 
     return written;
 }
 
+void KSSerialPort::_post(std::function<void(KSSerialPort&)> message)
+{
+    const std::lock_guard messageLock(_messageLock);
+    if (_postsMessages)
+        postToMainThread([port = _self.lock(), message = std::move(message)] { message(*port); });
+}
+
 void KSSerialPort::_postData(const QByteArray& data)
 {
-    postToMainThread([port = _self.lock(), data] {
-        if (port->_delegateHandlesReadInBackground)
-            port->_delegate->serialPortReadData({.serialPort = *port, .data = data});
+    _post([data](KSSerialPort& port) {
+        if (port._delegateHandlesReadInBackground)
+            port._delegate->serialPortReadData({.serialPort = port, .data = data});
     });
 }
 
 void KSSerialPort::_postProgress(qint64 value, qint64 total)
 {
-    postToMainThread([port = _self.lock(), value, total] {
-        if (port->_delegateHandlesWriteInBackground)
-            port->_delegate->serialPortWriteProgress({.serialPort = *port, .value = value, .total = total});
+    _post([value, total](KSSerialPort& port) {
+        if (port._delegateHandlesWriteInBackground)
+            port._delegate->serialPortWriteProgress({.serialPort = port, .value = value, .total = total});
     });
 }
 

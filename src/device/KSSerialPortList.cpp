@@ -1,6 +1,7 @@
 #include "device/KSSerialPortList.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace ridelog {
@@ -19,7 +20,9 @@ KSSerialPortList::Port firstWith(const KSSerialPortList::Ports& ports, Property 
 
 std::shared_ptr<KSSerialPortList> KSSerialPortList::sharedPortList()
 {
-    static const auto list = std::make_shared<KSSerialPortList>(std::make_shared<LinuxSerialDevices>());
+    // Never destroyed: its ports are not to go after the application.
+    static const auto& list = *new std::shared_ptr<KSSerialPortList>(
+        std::make_shared<KSSerialPortList>(std::make_shared<LinuxSerialDevices>()));
     return list;
 }
 

@@ -2,6 +2,7 @@
 
 #include "device/DeviceLog.h"
 
+#include <cerrno>
 #include <cstring>
 
 namespace ridelog {
@@ -16,9 +17,15 @@ OdoCom::OdoCom(const QString& bsdPath, StopBits stopBits) : _bsdPath(bsdPath), _
 
 OdoCom::~OdoCom()
 {
-    // Somebody else may hold the port as well.
+    _letPortGo();
+}
+
+/// Somebody else may hold the port as well.
+void OdoCom::_letPortGo()
+{
     if (_port && _port->delegate() == this)
         _port->setDelegate(nullptr);
+    _port.reset();
 }
 
 void OdoCom::setDelegate(OdoComDelegate* delegate)
@@ -34,6 +41,7 @@ void OdoCom::setPort(const std::shared_ptr<KSSerialPort>& port)
 {
     if (port == _port)
         return;
+    _letPortGo();
     _port = port;
     if (_port)
         _applyLineSettings(*_port);
@@ -50,9 +58,10 @@ void OdoCom::_applyLineSettings(KSSerialPort& port) const
 bool OdoCom::startReading()
 {
     _readingStarted = false;
-    _openError = 0;
+    _openError = EALREADY;
     if (_port && _port->bsdPath() == _bsdPath)
         return false;
+    _stopped = false;
     if (_port)
         _port->close();
     setPort(KSSerialPort::init(_bsdPath, _bsdPath));
@@ -70,16 +79,15 @@ bool OdoCom::startReading()
 int OdoCom::_openPort(KSSerialPort& port) const
 {
     qCDebug(lcDevice, "attempting to open port");
-    if (!port.open() || !port.claim()) {
+    if (!port.open(KSSerialPort::Claim::yes)) {
         qCWarning(lcDevice, "couldn't open port for device ");
         return port.openError();
     }
     qCDebug(lcDevice, "port opened");
     _applyLineSettings(port);
     // A line as the system hands it out, made for people who type, would hold the dump back for a line's end
-    // that never comes, and send all of it back to the device. One that somebody has set up stays as it is.
-    if (port.testLineInput())
-        port.setRawInput();
+    // that never comes, and send all of it back to the device.
+    port.setInputAtOnce();
     if (!port.commitChanges()) {
         qCWarning(lcDevice, "Error setting tty attributes %s - %s(%d).\n", qUtf8Printable(port.bsdPath()),
                   std::strerror(port.errorCode()), port.errorCode());
@@ -91,6 +99,7 @@ int OdoCom::_openPort(KSSerialPort& port) const
 void OdoCom::stopReading()
 {
     qCDebug(lcDevice, "stop reading");
+    _stopped = true;
     if (_port)
         _port->stopReadInBackground();
 }
@@ -99,8 +108,12 @@ void OdoCom::serialPortReadData(const ReadData& chunk)
 {
     if (chunk.data.isEmpty()) {
         qCDebug(lcDevice, "port closed\r");
-        if (_delegate)
+        if (_delegate && !_stopped)
             _delegate->handleTransferBrokenOff();
+        return;
+    }
+    if (_stopped) {
+        _odoData += chunk.data;
         return;
     }
     if (!_readingStarted && _delegate)
@@ -109,13 +122,13 @@ void OdoCom::serialPortReadData(const ReadData& chunk)
     _odoData += chunk.data;
     if (_delegateHandlesProgress)
         _delegate->handleTransferProgress(static_cast<std::int32_t>(chunk.data.size()));
-    if (_odoData.size() >= wholeDump) {
-        stopReading();
-        if (_delegate)
-            _delegate->handleTransferFinished();
+    if (_stopped)
         return;
-    }
-    chunk.serialPort.readDataInBackground();
+    if (_odoData.size() < wholeDump)
+        return chunk.serialPort.readDataInBackground();
+    stopReading();
+    if (_delegate)
+        _delegate->handleTransferFinished();
 }
 
 } // namespace ridelog

@@ -47,11 +47,12 @@ public:
     void setPort(const std::shared_ptr<KSSerialPort>& port);
     const std::shared_ptr<KSSerialPort>& port() const { return _port; }
 
-    /// Opens the port and listens. False if it cannot be had: `openError` has the number of the reason, 0 if
-    /// the session has its port already.
+    /// Opens the port and listens. False if it cannot be had: `openError` has the number of the reason,
+    /// EALREADY if the session has its port already.
     bool startReading();
     int openError() const { return _openError; }
-    /// No further chunk is asked for. What arrived stays.
+    /// Asks for no further chunk, and tells the delegate nothing more. What has arrived stays, and what was
+    /// on its way is still added.
     void stopReading();
 
     /// All that has arrived so far.
@@ -61,6 +62,7 @@ private:
     bool handlesReadInBackground() const override { return true; }
     void serialPortReadData(const ReadData& chunk) override;
     void _applyLineSettings(KSSerialPort& port) const;
+    void _letPortGo();
     int _openPort(KSSerialPort& port) const;
 
     const QString _bsdPath;
@@ -70,6 +72,7 @@ private:
     OdoComDelegate* _delegate = nullptr;
     bool _delegateHandlesProgress = false;
     bool _readingStarted = false; ///< a first chunk has arrived
+    bool _stopped = false;
     int _openError = 0;
 };
 

@@ -60,6 +60,8 @@ QString whyPortFailed(const QString& path, int error)
         return QStringLiteral("in use by another program");
     case ENOTTY:
         return QStringLiteral("not a serial port");
+    case EALREADY:
+        return QStringLiteral("a transfer from it is under way");
     case EIO:
         return QStringLiteral("the port does not answer");
     case EINVAL:
@@ -85,7 +87,9 @@ QString whyTransferWasStopped(qsizetype received, qsizetype whole)
 
 QString whyTransferFellSilent(qsizetype received, qsizetype whole, double seconds)
 {
-    const auto waited = QStringLiteral("%1 seconds").arg(QString::number(seconds));
+    const auto waited =
+        QStringLiteral("%1 second%2")
+            .arg(QString::number(seconds, 'g', 12), seconds == 1 ? QString() : QStringLiteral("s"));
     if (received == 0)
         return QStringLiteral("nothing arrived within %1").arg(waited);
     return QStringLiteral("the device fell silent after %1: nothing for %2")

@@ -57,7 +57,10 @@ LinuxSerialDevices::LinuxSerialDevices(const QStringList& addedPaths, const QStr
 
 QStringList LinuxSerialDevices::pathsFromEnvironment()
 {
-    return qEnvironmentVariable("RIDELOG_PORTS").split(u':', Qt::SkipEmptyParts);
+    auto paths = qEnvironmentVariable("RIDELOG_PORTS").split(u':', Qt::SkipEmptyParts);
+    std::ranges::transform(paths, paths.begin(), &QDir::cleanPath);
+    paths.removeAll(QStringLiteral("/"));
+    return paths;
 }
 
 std::vector<SerialDevice> LinuxSerialDevices::devices() const

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <asm/termbits.h>
 #include <cerrno>
+#include <cmath>
 #include <iterator>
 #include <sys/ioctl.h>
 #include <utility>
@@ -193,17 +194,14 @@ void TerminalAttributes::setDataBits(int bits)
     _controlFlags = (_controlFlags & ~std::uint32_t{CSIZE}) | static_cast<std::uint32_t>(size);
 }
 
-bool TerminalAttributes::isLineInput() const
+void TerminalAttributes::setInputAtOnce()
 {
-    return (_localFlags & ICANON) != 0;
-}
-
-void TerminalAttributes::setRawInput()
-{
-    _inputFlags &=
-        ~std::uint32_t{IGNBRK | BRKINT | PARMRK | INPCK | ISTRIP | INLCR | IGNCR | ICRNL | IXON | IXOFF};
-    _outputFlags &= ~std::uint32_t{OPOST};
-    _localFlags &= ~std::uint32_t{ECHO | ECHONL | ICANON | ISIG | IEXTEN};
+    if ((_localFlags & ICANON) != 0) {
+        _inputFlags &=
+            ~std::uint32_t{IGNBRK | BRKINT | PARMRK | INPCK | ISTRIP | INLCR | IGNCR | ICRNL | IXON | IXOFF};
+        _outputFlags &= ~std::uint32_t{OPOST};
+        _localFlags &= ~std::uint32_t{ECHO | ECHONL | ICANON | ISIG | IEXTEN};
+    }
     _controlCharacters[VMIN] = 1;
     _controlCharacters[VTIME] = 0;
 }

@@ -45,10 +45,9 @@ public:
     int dataBits() const;
     void setDataBits(int bits);
 
-    /// Whether input waits until a line is complete, as it is made for people who type.
-    bool isLineInput() const;
-    /// Every byte comes as it is and at once, and none is answered.
-    void setRawInput();
+    /// Input neither waits for the end of a line nor for a number of bytes. A line made for people who type
+    /// becomes one where every byte comes as it is and none is answered; any other stays what it is.
+    void setInputAtOnce();
 
 private:
     std::uint32_t _inputFlags = 0;

@@ -1,7 +1,8 @@
 #include "device/WakeUp.h"
 
+#include "platform/SystemCall.h"
+
 #include <array>
-#include <cerrno>
 #include <cstdint>
 #include <poll.h>
 #include <sys/eventfd.h>
@@ -13,7 +14,7 @@ WakeUp::WakeUp() : _descriptor(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
 
 WakeUp::~WakeUp()
 {
-    if (_descriptor >= 0)
+    if (isValid())
         ::close(_descriptor);
 }
 
@@ -27,14 +28,8 @@ void WakeUp::wake()
 
 bool WakeUp::waitFor(int descriptor, short events) const
 {
-    // Without the means to be woken nothing is waited for.
-    if (_descriptor < 0)
-        return false;
     std::array<pollfd, 2> waits{{{descriptor, events, 0}, {_descriptor, POLLIN, 0}}};
-    int ready = 0;
-    do {
-        ready = poll(waits.data(), waits.size(), -1);
-    } while (ready < 0 && errno == EINTR);
+    const int ready = uninterrupted([&] { return poll(waits.data(), waits.size(), -1); });
     return ready > 0 && waits[1].revents == 0 && (waits[0].revents & POLLNVAL) == 0;
 }
 

@@ -12,6 +12,8 @@ public:
     WakeUp(const WakeUp&) = delete;
     WakeUp& operator=(const WakeUp&) = delete;
 
+    /// False where the system has no descriptor left for it; `errno` tells why.
+    bool isValid() const { return _descriptor >= 0; }
     /// Every wait that is under way or comes later ends at once.
     void wake();
     bool isWoken() const { return _isWoken; }

@@ -11,7 +11,8 @@
 namespace ridelog {
 namespace {
 
-/// Takes an event for every message, so that other events have their turn in between.
+/// Takes an event for every message, so that other events have their turn in between. The messages themselves
+/// are handed over under a lock of our own, which tools that look for races can see.
 class Mailbox : public QObject {
 public:
     void post(std::function<void()> message)

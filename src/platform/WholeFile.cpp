@@ -1,5 +1,7 @@
 #include "platform/WholeFile.h"
 
+#include "platform/SystemCall.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -15,11 +17,6 @@
 namespace ridelog {
 namespace {
 
-QString systemError()
-{
-    return QString::fromLocal8Bit(std::strerror(errno));
-}
-
 /// A name in the folder that nobody else uses: short, for the file's own name may be as long as names can be.
 QByteArray temporaryName(const QByteArray& folder)
 {
@@ -29,16 +26,6 @@ QByteArray temporaryName(const QByteArray& folder)
 QString inFolder(const QString& error)
 {
     return QStringLiteral("nothing can be written in its folder: ") + error;
-}
-
-/// Calls again what a signal has interrupted.
-template <typename Call>
-auto uninterrupted(Call&& call)
-{
-    auto result = call();
-    while (result < 0 && errno == EINTR)
-        result = call();
-    return result;
 }
 
 } // namespace

@@ -97,7 +97,7 @@ void DeviceSimulator::plugInAgain()
     Q_EMIT closed(_sent);
     if (error)
         Q_EMIT failed(*error);
-    else
+    else if (path() == newPath) // whoever hears of the closing may have stopped the device
         Q_EMIT pathChanged(newPath);
 }
 

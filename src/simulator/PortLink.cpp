@@ -1,6 +1,6 @@
 #include "simulator/PortLink.h"
 
-#include "simulator/SystemError.h"
+#include "platform/SystemCall.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -26,8 +26,9 @@ bool isLeftBehind(const QByteArray& name)
     struct stat target {};
     if (::lstat(name.constData(), &link) != 0 || !S_ISLNK(link.st_mode))
         return false;
+    // The terminal that it led to may be gone.
     if (::stat(name.constData(), &target) != 0)
-        return errno == ENOENT;
+        return QFile::symLinkTarget(QFile::decodeName(name)).startsWith(QStringLiteral("/dev/pts/"));
     const auto number = major(target.st_rdev);
     return S_ISCHR(target.st_mode) && number >= firstTerminalMajor && number <= lastTerminalMajor;
 }

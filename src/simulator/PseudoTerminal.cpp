@@ -1,6 +1,6 @@
 #include "simulator/PseudoTerminal.h"
 
-#include "simulator/SystemError.h"
+#include "platform/SystemCall.h"
 
 #include <QFile>
 

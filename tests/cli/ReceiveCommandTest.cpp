@@ -94,33 +94,70 @@ TEST_F(ReceiveCommand, KeepsWhatArrivedOfATransferThatDoesNotComplete)
               inKept));
     EXPECT_EQ(read("odoData.odo.tmp"), part);
 
-    startListening(words);
-    ASSERT_TRUE(line.send(part.first(100)));
-    ::kill(static_cast<pid_t>(process.processId()), SIGINT);
-    outcome = finish();
-    EXPECT_EQ(outcome.status, 3);
-    EXPECT_TRUE(outcome.err.contains("stopped ")) << outcome.err.constData();
-
     const auto garbage = QByteArray(300, '#') + dump;
     startListening(words);
     ASSERT_TRUE(line.send(garbage.first(dump.size())));
     outcome = finish();
     EXPECT_EQ(outcome.status, 3);
-    EXPECT_EQ(outcome.err,
-              error(QStringLiteral("complete, but not a raw dump of this device: it does not begin "
-                                   "with \"AFRO\"") +
-                    inKept));
+    EXPECT_EQ(
+        outcome.err,
+        error(QStringLiteral("complete, but not a raw dump: it does not begin with \"AFRO\"") + inKept));
     EXPECT_EQ(read("odoData.odo.tmp"), garbage.first(dump.size()));
-
-    startListening(words);
-    ASSERT_TRUE(line.send(part));
-    line.hangUp();
-    outcome = finish();
-    EXPECT_EQ(outcome.status, 3);
-    EXPECT_TRUE(outcome.err.contains(": the port was closed or unplugged after ")) << outcome.err.constData();
 
     EXPECT_EQ(read("my.odo"), QByteArray("from before"));
     EXPECT_FALSE(QFile::exists(path("my.ridelog")));
+}
+
+/// With a terminal, which tells when the program has taken what was sent.
+class ReceiveOnTerminal : public ReceiveCommand {
+protected:
+    void receiveHalf()
+    {
+        process.setStandardErrorFile(terminal.path());
+        startListening({QStringLiteral("-o"), path("my.odo")});
+        ASSERT_TRUE(line.send(dump.first(40'965)));
+        ASSERT_TRUE(eventually([this] {
+            return (shown += terminal.received()).contains("] 50 %  40,965 of 81,930 bytes, ");
+        })) << shown.constData();
+    }
+    void expectKept(const char* reason)
+    {
+        EXPECT_EQ(finish().status, 3);
+        const auto said = error(QStringLiteral("%1 after 40,965 of 81,930 bytes; what arrived is in %2")
+                                    .arg(QString::fromLatin1(reason), kept()));
+        EXPECT_TRUE(eventually([&] { return (shown += terminal.received()).endsWith("\x1b[K" + said); }))
+            << shown.constData();
+        EXPECT_TRUE(read("odoData.odo.tmp") == dump.first(40'965));
+        QFile::remove(kept());
+        shown.clear();
+    }
+
+    SerialLine terminal;
+    QByteArray shown;
+};
+
+TEST_F(ReceiveOnTerminal, ShowsHowFarItIs)
+{
+    receiveHalf();
+    EXPECT_TRUE(shown.startsWith("\rWaiting for the device at /dev/pts/"));
+    EXPECT_TRUE(shown.contains("[############............]"));
+    ASSERT_TRUE(line.send(dump.sliced(40'965)));
+    EXPECT_EQ(finish().status, 0);
+    EXPECT_TRUE(read("my.odo") == dump);
+}
+
+TEST_F(ReceiveOnTerminal, KeepsWhatArrivedWhenItIsStopped)
+{
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        receiveHalf();
+        // A terminal that is closed may send it twice.
+        ::kill(static_cast<pid_t>(process.processId()), signal);
+        ::kill(static_cast<pid_t>(process.processId()), signal);
+        expectKept("stopped");
+    }
+    receiveHalf();
+    line.hangUp();
+    expectKept("the port was closed or unplugged");
 }
 
 TEST_F(ReceiveCommand, KeepsNothingWhereNothingArrived)
@@ -142,13 +179,20 @@ TEST_F(ReceiveCommand, SaysBeforeTheTransferWhatWouldPreventIt)
     };
     const auto there = QStringLiteral("--port ") + line.path();
     refused(QStringLiteral("-o x"), 2, "--port is missing");
-    refused(there, 2, "-o or --into is missing");
-    refused(there + QStringLiteral(" -o x --timeout 0"), 2, "--timeout takes a number");
-    refused(there + QStringLiteral(" -o x --timeout soon"), 2, "--timeout takes a number");
+    refused(there + QStringLiteral(" --into="), 2, "-o and --into take the name of a file");
+    refused(there + QStringLiteral(" -o x --timeout 0"), 2, "--timeout takes seconds");
+    refused(there + QStringLiteral(" -o x --timeout soon"), 2, "--timeout takes seconds");
     refused(there + QStringLiteral(" -o ") + path(), 3, "it is a folder");
     refused(there + QStringLiteral(" -o ") + path("none/x"), 3, "there is no folder of this name");
     refused(there + QStringLiteral(" --into ") + write("x", "no document"), 1, "/x: ");
     const auto output = QStringLiteral(" -o ") + path("y");
+    refused(there + output + QStringLiteral(" --into ") + path("y"), 1, "cannot be one file");
+    const auto document = path("z.ridelog");
+    ASSERT_EQ(run(QStringLiteral("import %1 --into %2").arg(write("d.odo", dump), document)).status, 0);
+    const auto before = read("z.ridelog");
+    refused(there + QStringLiteral(" -o ") + document, 1, "a document, which a raw dump would replace");
+    EXPECT_EQ(run(QStringLiteral("make-dump -o ") + document).status, 1);
+    EXPECT_EQ(read("z.ridelog"), before);
     refused(QStringLiteral("--port /dev/no-such-port") + output, 3,
             "/dev/no-such-port: there is no such port");
     refused(QStringLiteral("--port ") + path("x") + output, 3, "not a serial port");
@@ -157,7 +201,8 @@ TEST_F(ReceiveCommand, SaysBeforeTheTransferWhatWouldPreventIt)
     refused(there + output, 3, "in use by another program");
     process.kill();
     process.waitForFinished();
-    EXPECT_EQ(names(), QStringList{QStringLiteral("x")});
+    EXPECT_EQ(names(),
+              (QStringList{QStringLiteral("d.odo"), QStringLiteral("x"), QStringLiteral("z.ridelog")}));
 }
 
 TEST_F(CommandLine, PortsAreThoseOfTheMachineAndThoseThatAreAdded)

@@ -18,7 +18,7 @@ protected:
     Outcome receive(std::optional<Fault> fault, const QStringList& more = {})
     {
         DeviceSimulator device(
-            {.dump = dump, .speed = 0, .fault = fault, .lateBy = std::chrono::milliseconds(50)});
+            {.dump = dump, .speed = speed, .fault = fault, .lateBy = std::chrono::milliseconds(50)});
         const auto failure = device.start();
         EXPECT_FALSE(failure) << qPrintable(*failure);
         port = device.path();
@@ -44,6 +44,7 @@ protected:
         return outcome.err.mid(begin.size());
     }
 
+    double speed = 0;
     QByteArray dump;
     QString port;
 };
@@ -83,9 +84,13 @@ TEST_F(Transfer, KeepsWhatArrivedFromADeviceThatDoesNotFinish)
     EXPECT_TRUE(
         reason(receive(Fault::shortDump, impatient)).startsWith("the device fell silent after 81,929 of"));
     EXPECT_TRUE(read("odoData.odo.tmp") == dump.first(81'929));
+    // A hang-up takes what was not read yet with it.
+    speed = 300;
     EXPECT_TRUE(reason(receive(Fault::cut)).startsWith("the port was closed or unplugged after "));
     EXPECT_TRUE(dump.startsWith(read("odoData.odo.tmp")));
-    EXPECT_TRUE(reason(receive(Fault::garbage)).startsWith("complete, but not a raw dump of this device"));
+    speed = 0;
+    EXPECT_TRUE(
+        reason(receive(Fault::garbage)).startsWith("complete, but not a raw dump: it does not begin"));
     EXPECT_GE(read("odoData.odo.tmp").size(), dump.size());
     EXPECT_EQ(names(), QStringList{QStringLiteral("odoData.odo.tmp")});
 }
@@ -93,7 +98,7 @@ TEST_F(Transfer, KeepsWhatArrivedFromADeviceThatDoesNotFinish)
 TEST_F(Transfer, ADumpWithNoiseInsideIsKeptAndDecodedAsFarAsItGoes)
 {
     const auto outcome = receive(Fault::noise);
-    EXPECT_TRUE(outcome.status == 0 || outcome.status == 3) << outcome.err.constData();
+    EXPECT_EQ(outcome.status, 0) << outcome.err.constData();
     const auto got = read("got.odo");
     ASSERT_EQ(got.size(), dump.size());
     EXPECT_TRUE(got.startsWith("AFRO"));

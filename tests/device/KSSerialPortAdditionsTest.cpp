@@ -138,6 +138,18 @@ TEST_F(BackgroundIo, AReadFromBeforeTheCloseDoesNotTakeWhatComesAfterIt)
     EXPECT_EQ(listener.chunks, (QByteArrayList{{}, "new"}));
 }
 
+TEST_F(BackgroundIo, AReadWhoseInputVanishesDoesNotHoldUpTheClose)
+{
+    for (int i = 0; i < 500; ++i) {
+        port->readDataInBackground();
+        ASSERT_EQ(::write(line.end(), "x", 1), 1);
+        port->flushInput(true, false);
+        port->close();
+        ASSERT_TRUE(port->open());
+    }
+    EXPECT_TRUE(eventually([&] { return noThreads(); }));
+}
+
 TEST_F(BackgroundIo, APortThatNobodyHoldsIsClosedAndLeavesNothingBehind)
 {
     const auto othersThreads = threads().size();

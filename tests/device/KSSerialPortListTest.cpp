@@ -89,7 +89,7 @@ TEST(LinuxSerialDevices, AreThoseWithHardwareAndThoseThatTheUserAdds)
     tree.write("tty/ttyS0/type", "4\n");
     tree.write("tty/ttyS1/type", "0\n"); // nothing in the slot
 
-    const LinuxSerialDevices devices({QStringLiteral("/tmp/simulated"), QStringLiteral("/dev/ttyS0")},
+    const LinuxSerialDevices devices({QStringLiteral("/somewhere/simulated"), QStringLiteral("/dev/ttyS0")},
                                      root.filePath(QStringLiteral("tty")));
     QStringList found;
     for (const auto& [name, path, product] : devices.devices())
@@ -98,7 +98,7 @@ TEST(LinuxSerialDevices, AreThoseWithHardwareAndThoseThatTheUserAdds)
                                   QStringLiteral("ttyS0 /dev/ttyS0 "),
                                   QStringLiteral("ttyUSB9 /dev/ttyUSB9 USB-Serial Controller"),
                                   QStringLiteral("ttyUSB10 /dev/ttyUSB10 "),
-                                  QStringLiteral("simulated /tmp/simulated ")}));
+                                  QStringLiteral("simulated /somewhere/simulated ")}));
 
     const LinuxSerialDevices none({}, root.filePath(QStringLiteral("no such folder")));
     EXPECT_TRUE(none.devices().empty());

@@ -25,7 +25,7 @@ std::shared_ptr<KSSerialPort> portOf(const SerialLine& line)
 
 TEST(KSSerialPort, SettingsReachTheDeviceWithTheCommitAndGoBackWithTheClose)
 {
-    const SerialLine line(SerialLine::Line::asHandedOut);
+    const SerialLine line(SerialLine::Kind::asHandedOut);
     const auto before = line.settings();
     const auto port = portOf(line);
     port->setSpeed(300);
@@ -48,7 +48,7 @@ TEST(KSSerialPort, SettingsReachTheDeviceWithTheCommitAndGoBackWithTheClose)
     EXPECT_EQ(set.c_lflag, before.c_lflag & ~tcflag_t{ECHO});
     EXPECT_EQ(set.c_iflag, before.c_iflag);
 
-    port->setRawInput();
+    port->setInputAtOnce();
     ASSERT_TRUE(port->commitChanges());
     EXPECT_EQ(line.settings().c_lflag & (ICANON | ECHO | ISIG), 0U);
     EXPECT_EQ(line.settings().c_iflag & (ICRNL | IXON), 0U);
@@ -102,7 +102,7 @@ TEST(KSSerialPort, QueriesAnswerWhatWasSet)
 
 TEST(KSSerialPort, OptionsAreMergedAndCommitted)
 {
-    const SerialLine line(SerialLine::Line::asHandedOut);
+    const SerialLine line(SerialLine::Kind::asHandedOut);
     const auto port = portOf(line);
     ASSERT_TRUE(port->open());
     port->setEchoEnabled(false);
@@ -165,21 +165,26 @@ TEST(KSSerialPort, TellsWhyItCannotBeOpened)
 
 TEST(KSSerialPort, OneProgramAtATimeClaimsTheDevice)
 {
-    const SerialLine line;
+    using Claim = KSSerialPort::Claim;
+    const SerialLine line(SerialLine::Kind::asHandedOut);
     const auto first = portOf(line);
     const auto second = portOf(line);
-    ASSERT_TRUE(first->open() && second->open());
-    EXPECT_TRUE(first->claim());
-    EXPECT_FALSE(second->claim());
+    ASSERT_TRUE(first->open(Claim::yes));
+    first->setInputAtOnce();
+    ASSERT_TRUE(first->commitChanges());
+    EXPECT_FALSE(second->open(Claim::yes));
     EXPECT_EQ(second->openError(), EBUSY);
+    EXPECT_EQ(line.settings().c_lflag & ICANON, 0U) << "the first one's settings stay";
     first->close();
-    EXPECT_TRUE(second->claim());
+    EXPECT_TRUE(second->open(Claim::yes));
+    second->close();
 
     // As other programs do it
     const int other = ::open(qPrintable(line.path()), O_RDWR | O_NOCTTY | O_CLOEXEC);
     ASSERT_GE(other, 0);
     ioctl(other, TIOCEXCL);
-    EXPECT_FALSE(second->claim());
+    EXPECT_FALSE(second->open(Claim::yes));
+    EXPECT_EQ(second->openError(), EBUSY);
     ioctl(other, TIOCNXCL);
     ::close(other);
 }

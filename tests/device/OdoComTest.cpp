@@ -6,10 +6,12 @@
 #include "tests/support/SerialLine.h"
 #include "tests/support/TemporaryFolder.h"
 
+#include <QFileInfo>
 #include <QStringList>
 
 #include <cerrno>
 #include <gtest/gtest.h>
+#include <malloc.h>
 #include <memory>
 
 namespace ridelog {
@@ -83,6 +85,7 @@ TEST(OdoCom, SetsTheLineForTheDevice)
     for (const auto stopBits : {OdoCom::StopBits::one, OdoCom::StopBits::two}) {
         const SerialLine line;
         auto before = line.settings();
+        before.c_cc[VMIN] = 200;
         before.c_lflag |= ECHO; // as somebody has set it up
         cfsetospeed(&before, B300);
         tcsetattr(line.end(), TCSANOW, &before);
@@ -91,6 +94,7 @@ TEST(OdoCom, SetsTheLineForTheDevice)
         const auto set = line.settings();
         EXPECT_EQ(cfgetospeed(&set), speed_t{B9600});
         EXPECT_EQ(set.c_cflag & (CSIZE | PARENB), tcflag_t{CS8});
+        EXPECT_EQ(set.c_cc[VMIN], 1) << "the last bytes do not wait for more";
         EXPECT_EQ((set.c_cflag & CSTOPB) != 0, stopBits == OdoCom::StopBits::two);
         EXPECT_EQ(set.c_lflag, before.c_lflag);
         EXPECT_EQ(set.c_iflag, before.c_iflag);
@@ -99,7 +103,7 @@ TEST(OdoCom, SetsTheLineForTheDevice)
 
 TEST(OdoCom, ADumpGetsThroughALineAsTheSystemHandsItOut)
 {
-    const SerialLine line(SerialLine::Line::asHandedOut);
+    const SerialLine line(SerialLine::Kind::asHandedOut);
     Rider rider;
     OdoCom session(line.path());
     session.setDelegate(&rider);
@@ -164,6 +168,44 @@ TEST(OdoCom, AStoppedTransferKeepsWhatArrived)
     EXPECT_FALSE(rider.hasHeard("finished") || rider.hasHeard("broken off"));
 }
 
+TEST(OdoCom, AStopHoldsWheneverItComes)
+{
+    struct Hasty : Rider {
+        void handleTransferProgress(std::int32_t) override { session->stopReading(); }
+        OdoCom* session = nullptr;
+    };
+    for (const bool beforeTheThread : {true, false}) {
+        const SerialLine line;
+        Hasty hasty;
+        OdoCom session(line.path());
+        hasty.session = &session;
+        session.setDelegate(&hasty);
+        ASSERT_TRUE(session.startReading());
+        if (beforeTheThread)
+            session.stopReading();
+        ASSERT_TRUE(line.send(dumpOf(4000)));
+        ASSERT_TRUE(eventually([&] { return session.port()->numberOfReadInBackgroundThreads() == 0; }));
+        QCoreApplication::sendPostedEvents();
+        EXPECT_LE(session.odoData().size(), beforeTheThread ? 0 : 4000);
+        EXPECT_FALSE(hasty.hasHeard("finished"));
+    }
+}
+
+TEST(OdoCom, ASessionThatHasGoneHearsNothingOfItsPort)
+{
+    const SerialLine line;
+    std::shared_ptr<KSSerialPort> port;
+    {
+        OdoCom session(line.path());
+        ASSERT_TRUE(session.startReading());
+        port = session.port();
+        session.setPort(nullptr);
+        EXPECT_FALSE(port->delegate());
+    }
+    ASSERT_TRUE(line.send("late"));
+    EXPECT_TRUE(eventually([&] { return port->numberOfReadInBackgroundThreads() == 0; }));
+}
+
 TEST(OdoCom, TwoHundredTransfersLeaveNothingBehind)
 {
     const SerialLine line;
@@ -174,22 +216,23 @@ TEST(OdoCom, TwoHundredTransfersLeaveNothingBehind)
         std::unique_ptr<OdoCom> session;
     };
     Window window;
-    qsizetype threadsBefore = 0;
-    qsizetype descriptorsBefore = 0;
+    const auto threadsBefore = threads().size();
+    const auto descriptorsBefore = openDescriptors();
+    std::size_t memoryBefore = 0;
     for (int i = 0; i < 200; ++i) {
         window.session = std::make_unique<OdoCom>(line.path());
         window.session->setDelegate(&window);
         ASSERT_TRUE(window.session->startReading());
         ASSERT_TRUE(line.send(dump));
         ASSERT_TRUE(eventually([&] { return !window.session; }));
-        if (i == 0) {
-            threadsBefore = threads().size();
-            descriptorsBefore = openDescriptors();
-        }
+        if (i == 20)
+            memoryBefore = mallinfo2().uordblks;
     }
     EXPECT_EQ(window.counted, 200 * dump.size());
     EXPECT_TRUE(eventually([&] { return threads().size() <= threadsBefore; }));
-    EXPECT_LE(openDescriptors(), descriptorsBefore);
+    EXPECT_EQ(openDescriptors(), descriptorsBefore);
+    constexpr std::size_t oneDump = OdoCom::wholeDump;
+    EXPECT_LT(mallinfo2().uordblks, memoryBefore + oneDump) << "less than one of 180";
 }
 
 TEST(PortProblem, HasOneMessageForOneCause)
@@ -202,6 +245,11 @@ TEST(PortProblem, HasOneMessageForOneCause)
     EXPECT_EQ(whyPortFailed(QStringLiteral("/dev/no-such-port"), ENOENT),
               QStringLiteral("there is no such port"));
     EXPECT_EQ(whyPortFailed(QStringLiteral("/dev/null"), EBUSY), QStringLiteral("in use by another program"));
+    const QFileInfo device(QStringLiteral("/dev/tty")); // for everybody's groups
+    const auto denied = whyPortFailed(device.filePath(), EACCES);
+    EXPECT_TRUE(denied.startsWith(QStringLiteral("permission denied")));
+    EXPECT_EQ(denied.contains(QStringLiteral("group %1 ").arg(device.group())), device.groupId() != 0);
+    EXPECT_EQ(whyTransferWasStopped(4'096, 81'930), QStringLiteral("stopped after 4,096 of 81,930 bytes"));
     EXPECT_EQ(whyTransferBrokeOff(0, 81'930),
               QStringLiteral("the port was closed or unplugged before anything arrived"));
     EXPECT_EQ(whyTransferFellSilent(40'960, 81'930, 5),

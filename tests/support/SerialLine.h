@@ -18,8 +18,8 @@ namespace ridelog {
 class SerialLine {
 public:
     /// As the system hands it out, it is made for people who type; raw, every byte passes as it is.
-    enum class Line { raw, asHandedOut };
-    explicit SerialLine(Line line = Line::raw)
+    enum class Kind { raw, asHandedOut };
+    explicit SerialLine(Kind kind = Kind::raw)
         : _end(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC))
     {
         std::array<char, 64> name{};
@@ -27,7 +27,7 @@ public:
             ptsname_r(_end, name.data(), name.size()) != 0)
             throw std::runtime_error("no pseudo-terminal");
         _path = QString::fromLatin1(name.data());
-        if (line == Line::raw) {
+        if (kind == Kind::raw) {
             auto raw = settings();
             cfmakeraw(&raw);
             tcsetattr(_end, TCSANOW, &raw);

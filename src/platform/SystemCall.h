@@ -13,4 +13,14 @@ inline QString systemError()
     return QString::fromLocal8Bit(std::strerror(errno));
 }
 
+/// The call's result, made again for as long as a signal interrupts it.
+template <typename Call>
+auto uninterrupted(Call&& call)
+{
+    auto result = call();
+    while (result < 0 && errno == EINTR)
+        result = call();
+    return result;
+}
+
 } // namespace ridelog
