@@ -4,76 +4,83 @@
 
 #include <QByteArray>
 #include <QHash>
+#include <QSet>
 #include <QString>
 
 #include <bit>
 #include <cstdint>
 #include <deque>
-#include <vector>
+#include <optional>
 
 namespace ridelog {
 
-/// Where a reader puts the objects that it keeps structurally, and the classes of its archive. Objects lie in
-/// one flat array and name each other by index, so that chains and rings of any length are freed, and
-/// compared, without recursion. An object takes a few times its bytes in the stream. See ArchiveObject.
+/// Where a reader puts the objects that it keeps structurally, and the classes of its archive. Objects name
+/// each other by index, so that chains and rings of any length are freed, and compared, without recursion.
+/// What is in them lies in one row of bytes, hardly longer than in the stream. See ArchiveObject.
 struct ArchiveGraph {
     enum class Tag : std::uint8_t {
+        group, ///< no value: a group of this type string begins; the index in `strings`
         nil,
         byte,     ///< one plain byte
         integer,  ///< a tagged integer, also where a real number is due
         float32,  ///< the value is its bits
         float64,  ///< the value is its bits
-        object,   ///< the value is its index in `objects`
+        inner,    ///< an object that stands here, its index in `objects`
+        object,   ///< one that stands elsewhere, its index in `objects`
         classRef, ///< the value is its index in `classes`
         cString,  ///< the value is the index of its text in `strings`
-        text,     ///< counted bytes; the value tells where they are, see `bytes`
+        text,     ///< counted bytes
         atom,     ///< a shared string; the value is its index in `strings`
-        block,    ///< plain bytes, as for text
+        block,    ///< plain bytes
     };
     struct Value {
         Tag tag = Tag::nil;
         qint64 value = 0;
-        bool operator==(const Value&) const = default;
+        QByteArrayView bytes = {}; ///< of texts and blocks
     };
-    struct Group {
-        std::uint32_t types; ///< index in `strings`
-        std::uint32_t valueCount;
-    };
+    /// Where in `bodies` its class, groups and values are, those of objects inside among them.
     struct Object {
-        const ArchiveClass* objectClass = nullptr; ///< none for an archive as a whole
-        std::uint32_t firstGroup = 0;              ///< its groups and values lie in a row
-        std::uint32_t firstValue = 0;
-        std::uint32_t groupCount = 0;
+        std::uint32_t begin = 0;
+        std::uint32_t end = 0; ///< 0 until all of it is kept
+        std::uint32_t valueCount = 0;
     };
 
-    /// Adds bytes and answers the value that tells where they are: offset and length, 32 bits each.
-    qint64 addBytes(QByteArrayView bytes)
-    {
-        const auto offset = contents.size();
-        contents += bytes;
-        return (offset << 32) + bytes.size();
-    }
-    QByteArrayView bytes(Value value) const
-    {
-        return QByteArrayView(contents).sliced(value.value >> 32, value.value & 0xFFFFFFFF);
-    }
+    // Keeping
+
+    std::uint32_t addObject();
+    /// What is added from here to `end` is the object's, but for what is between those of an object inside.
+    /// Answers how many bytes it took, as `add` does.
+    qsizetype begin(std::uint32_t object, std::optional<std::uint32_t> classIndex);
+    qsizetype add(const Value& value);
+    void end(std::uint32_t object, std::uint32_t valueCount);
+    bool isKept(std::uint32_t object) const { return objects[object].end > 0; }
+
+    // Looking
+
+    /// None for an archive as a whole.
+    const ArchiveClass* classOf(std::uint32_t object) const;
+    /// The place of an object's first group; from there `next` takes one item after another, up to the end.
+    std::uint32_t first(std::uint32_t object) const;
+    Value next(std::uint32_t& place) const;
+    const QByteArray& string(qint64 index) const { return strings[static_cast<std::size_t>(index)]; }
     /// Of a number, whatever its form.
-    static double realOf(Value value)
+    static double realOf(const Value& value)
     {
         if (value.tag == Tag::float32)
             return static_cast<double>(std::bit_cast<float>(static_cast<std::uint32_t>(value.value)));
         return value.tag == Tag::float64 ? std::bit_cast<double>(value.value)
                                          : static_cast<double>(value.value);
     }
-    const QByteArray& string(qint64 index) const { return strings[static_cast<std::size_t>(index)]; }
 
     std::deque<ArchiveClass> classes; ///< a deque: classes stay where they are
-    std::vector<QByteArray> strings;
-    std::vector<Object> objects;
-    std::vector<Group> groups;
-    std::vector<Value> values;
-    QByteArray contents;
-    mutable QHash<std::uint32_t, QString> longTexts; ///< decoded once and shared, by index in `objects`
+    std::deque<QByteArray> strings;
+    std::deque<Object> objects;
+    QByteArray bodies;
+
+    // Any number of objects may refer to a long one, which is looked through once. By index in `objects`.
+
+    mutable QHash<std::uint32_t, QString> longTexts; ///< decoded
+    mutable QSet<std::uint32_t> soundStyledTexts;    ///< whose runs are in order
 };
 
 } // namespace ridelog

@@ -19,9 +19,10 @@ namespace {
 using Tag = ArchiveGraph::Tag;
 
 /// What a value of the graph is to those who look into an object.
-ArchiveValue valueOf(const std::shared_ptr<const ArchiveGraph>& graph, ArchiveGraph::Value value)
+ArchiveValue valueOf(const std::shared_ptr<const ArchiveGraph>& graph, const ArchiveGraph::Value& value)
 {
     switch (value.tag) {
+    case Tag::group:
     case Tag::nil:
         break;
     case Tag::byte:
@@ -30,6 +31,7 @@ ArchiveValue valueOf(const std::shared_ptr<const ArchiveGraph>& graph, ArchiveGr
     case Tag::float32:
     case Tag::float64:
         return ArchiveGraph::realOf(value);
+    case Tag::inner:
     case Tag::object:
         return ArchiveObject(graph, static_cast<std::uint32_t>(value.value));
     case Tag::classRef:
@@ -39,47 +41,38 @@ ArchiveValue valueOf(const std::shared_ptr<const ArchiveGraph>& graph, ArchiveGr
         return graph->string(value.value);
     case Tag::text:
     case Tag::block:
-        return graph->bytes(value).toByteArray();
+        return value.bytes.toByteArray();
     }
     return std::monostate();
 }
 
-std::optional<double> realOf(const ArchiveValue& value)
+std::optional<double> realOf(const std::optional<ArchiveValue>& value)
 {
-    if (const auto* whole = std::get_if<qint64>(&value))
+    if (const auto* whole = value ? std::get_if<qint64>(&*value) : nullptr)
         return static_cast<double>(*whole);
-    const auto* real = std::get_if<double>(&value);
+    const auto* real = value ? std::get_if<double>(&*value) : nullptr;
     return real ? std::optional(*real) : std::nullopt;
 }
 
-std::optional<qint64> integerAt(const std::vector<ArchiveValue>& values, std::size_t index)
-{
-    const auto* integer = index < values.size() ? std::get_if<qint64>(&values[index]) : nullptr;
-    return integer ? std::optional(*integer) : std::nullopt;
-}
+/// Texts of so many bytes are decoded once.
+constexpr qsizetype longText = 32;
 
-ArchiveObject objectAt(const std::vector<ArchiveValue>& values, std::size_t index)
-{
-    const auto* object = index < values.size() ? std::get_if<ArchiveObject>(&values[index]) : nullptr;
-    return object ? *object : ArchiveObject();
-}
-
-/// Texts of so many bytes are decoded once, for any number of objects may refer to one.
-constexpr qsizetype longText = 1024;
+/// A zone's name is among its first values, if it has one.
+constexpr int mostBeforeName = 8;
 
 /// The zone of a date's values: that of the first zone object among them, if its name is known.
-QTimeZone zoneIn(const std::vector<ArchiveValue>& values)
+QTimeZone zoneIn(ArchiveValues values)
 {
-    for (const auto& value : values) {
-        const auto* object = std::get_if<ArchiveObject>(&value);
-        if (!object || !object->objectClass() ||
-            !(object->isKindOf("NSTimeZone") || object->objectClass()->name.endsWith("TimeZone")))
+    while (!values.atEnd()) {
+        const auto object = values.nextObject();
+        if (!object.objectClass() ||
+            !(object.isKindOf("NSTimeZone") || object.objectClass()->name.endsWith("TimeZone")))
             continue;
-        if (object->isKindOf("NSLocalTimeZone"))
+        if (object.isKindOf("NSLocalTimeZone"))
             break;
-        for (const auto& inZone : object->values()) {
-            const auto* name = std::get_if<ArchiveObject>(&inZone);
-            if (const auto text = name ? name->toText() : std::nullopt) {
+        ArchiveValues inZone(object);
+        for (int value = 0; value < mostBeforeName; ++value) {
+            if (const auto text = inZone.nextObject().toText()) {
                 const auto zone = archivedTimeZone(*text);
                 return zone.isValid() ? zone : CalendarDate::localTimeZone();
             }
@@ -89,11 +82,38 @@ QTimeZone zoneIn(const std::vector<ArchiveValue>& values)
     return CalendarDate::localTimeZone();
 }
 
+/// Whether two values, or the beginnings of two groups, are alike; what objects hold is left to the caller.
+bool areAlike(const ArchiveGraph& left, const ArchiveGraph::Value& one, const ArchiveGraph& right,
+              const ArchiveGraph::Value& two)
+{
+    switch (one.tag) {
+    case Tag::group:
+    case Tag::cString:
+    case Tag::atom:
+        return one.tag == two.tag && left.string(one.value) == right.string(two.value);
+    case Tag::classRef:
+        return one.tag == two.tag && left.classes[static_cast<std::size_t>(one.value)] ==
+                                         right.classes[static_cast<std::size_t>(two.value)];
+    case Tag::inner:
+    case Tag::object:
+        return two.tag == Tag::inner || two.tag == Tag::object;
+    case Tag::nil:
+    case Tag::byte:
+    case Tag::integer:
+    case Tag::float32:
+    case Tag::float64:
+    case Tag::text:
+    case Tag::block:
+        break;
+    }
+    return one.tag == two.tag && one.value == two.value && one.bytes == two.bytes;
+}
+
 } // namespace
 
 const ArchiveClass* ArchiveObject::objectClass() const
 {
-    return _graph ? _graph->objects[_index].objectClass : nullptr;
+    return _graph ? _graph->classOf(_index) : nullptr;
 }
 
 bool ArchiveObject::isKindOf(QByteArrayView className) const
@@ -107,24 +127,20 @@ std::vector<QByteArray> ArchiveObject::typeStrings() const
     std::vector<QByteArray> all;
     if (isNil())
         return all;
-    const auto& object = _graph->objects[_index];
-    for (std::uint32_t group = 0; group < object.groupCount; ++group)
-        all.push_back(_graph->string(_graph->groups[object.firstGroup + group].types));
+    const auto end = _graph->objects[_index].end;
+    for (auto place = _graph->first(_index); place < end;) {
+        if (const auto item = _graph->next(place); item.tag == Tag::group)
+            all.push_back(_graph->string(item.value));
+    }
     return all;
 }
 
 std::vector<ArchiveValue> ArchiveObject::values() const
 {
     std::vector<ArchiveValue> all;
-    if (isNil())
-        return all;
-    const auto& object = _graph->objects[_index];
-    std::size_t end = object.firstValue;
-    for (std::uint32_t group = 0; group < object.groupCount; ++group)
-        end += _graph->groups[object.firstGroup + group].valueCount;
-    all.reserve(end - object.firstValue);
-    for (std::size_t value = object.firstValue; value < end; ++value)
-        all.push_back(valueOf(_graph, _graph->values[value]));
+    ArchiveValues values(*this);
+    while (auto value = values.next())
+        all.push_back(std::move(*value));
     return all;
 }
 
@@ -138,29 +154,25 @@ bool ArchiveObject::areEqual(std::vector<std::pair<ArchiveObject, ArchiveObject>
         if (left.isSameObject(right) ||
             !seen.emplace(left._graph.get(), left._index, right._graph.get(), right._index).second)
             continue;
-        if (left.isNil() || right.isNil() || left.typeStrings() != right.typeStrings())
-            return false;
         const auto* leftClass = left.objectClass();
         const auto* rightClass = right.objectClass();
-        if (!leftClass != !rightClass || (leftClass && !(*leftClass == *rightClass)))
+        if (left.isNil() || right.isNil() || !leftClass != !rightClass ||
+            (leftClass && !(*leftClass == *rightClass)))
             return false;
-        const auto leftValues = left.values();
-        const auto rightValues = right.values();
-        const auto areEqual = [&](const ArchiveValue& one, const ArchiveValue& two) {
-            if (one.index() != two.index())
+        const auto leftEnd = left._graph->objects[left._index].end;
+        const auto rightEnd = right._graph->objects[right._index].end;
+        auto leftPlace = left._graph->first(left._index);
+        auto rightPlace = right._graph->first(right._index);
+        while (leftPlace < leftEnd && rightPlace < rightEnd) {
+            const auto one = left._graph->next(leftPlace);
+            const auto two = right._graph->next(rightPlace);
+            if (!areAlike(*left._graph, one, *right._graph, two))
                 return false;
-            if (const auto* object = std::get_if<ArchiveObject>(&one)) {
-                pairs.emplace_back(*object, std::get<ArchiveObject>(two));
-                return true;
-            }
-            if (const auto* namedClass = std::get_if<const ArchiveClass*>(&one))
-                return **namedClass == *std::get<const ArchiveClass*>(two);
-            if (const auto* real = std::get_if<double>(&one))
-                return std::bit_cast<qint64>(*real) == std::bit_cast<qint64>(std::get<double>(two));
-            return one == two;
-        };
-        if (!std::equal(leftValues.begin(), leftValues.end(), rightValues.begin(), rightValues.end(),
-                        areEqual))
+            if (one.tag == Tag::inner || one.tag == Tag::object)
+                pairs.emplace_back(ArchiveObject(left._graph, static_cast<std::uint32_t>(one.value)),
+                                   ArchiveObject(right._graph, static_cast<std::uint32_t>(two.value)));
+        }
+        if (leftPlace < leftEnd || rightPlace < rightEnd)
             return false;
     }
     return true;
@@ -172,8 +184,7 @@ std::optional<QString> ArchiveObject::toText() const
         return std::nullopt;
     if (const auto known = _graph->longTexts.constFind(_index); known != _graph->longTexts.constEnd())
         return *known;
-    const auto all = values();
-    const auto* bytes = all.empty() ? nullptr : std::get_if<QByteArray>(&all.front());
+    const auto bytes = ArchiveValues(*this).nextBytes();
     if (!bytes)
         return std::nullopt;
     const auto text = QString::fromUtf8(*bytes);
@@ -186,74 +197,97 @@ std::optional<ArchiveNumber> ArchiveObject::toNumber() const
 {
     if (!isKindOf("NSNumber"))
         return std::nullopt;
-    const auto types = typeStrings();
-    const auto all = values();
-    if (all.size() < 2 || types.size() < 2 || types[1].size() != 1)
-        return std::nullopt;
-    const char type = types[1].front();
-    const bool isReal = type == 'f' || type == 'd';
-    if (const auto real = realOf(all[1]); real && isReal)
-        return ArchiveNumber(type, *real);
-    const auto integer = integerAt(all, 1);
-    return integer ? std::optional(ArchiveNumber(type, *integer)) : std::nullopt;
+    // The type as a C string, then the number in a group of its own type.
+    const auto end = _graph->objects[_index].end;
+    QByteArray type;
+    int values = 0;
+    for (auto place = _graph->first(_index); place < end && values < 2;) {
+        const auto item = _graph->next(place);
+        if (item.tag == Tag::group)
+            type = _graph->string(item.value);
+        else if (++values == 2 && type.size() == 1) {
+            const auto value = valueOf(_graph, item);
+            const bool isReal = type == "f" || type == "d";
+            if (const auto real = realOf(value); real && isReal)
+                return ArchiveNumber(type.front(), *real);
+            if (const auto* integer = std::get_if<qint64>(&value))
+                return ArchiveNumber(type.front(), *integer);
+        }
+    }
+    return std::nullopt;
 }
 
 std::optional<QByteArray> ArchiveObject::toData() const
 {
-    const auto all = isKindOf("NSData") ? values() : std::vector<ArchiveValue>();
-    const auto count = integerAt(all, 0);
-    if (!count)
+    if (!isKindOf("NSData"))
         return std::nullopt;
-    const auto* bytes = all.size() > 1 ? std::get_if<QByteArray>(&all[1]) : nullptr;
-    const auto data = bytes ? *bytes : QByteArray("");
-    return data.size() == *count ? std::optional(data) : std::nullopt;
+    ArchiveValues values(*this);
+    const auto count = values.nextInteger();
+    const auto data = values.nextBytes().value_or(QByteArray(""));
+    return data.size() == count ? std::optional(data) : std::nullopt;
 }
 
 std::optional<std::vector<ArchiveObject>> ArchiveObject::toItems() const
 {
-    const auto all = isKindOf("NSArray") || isKindOf("NSSet") ? values() : std::vector<ArchiveValue>();
-    const auto count = integerAt(all, 0);
-    if (!count || *count != static_cast<qint64>(all.size()) - 1)
+    if (!isKindOf("NSArray") && !isKindOf("NSSet"))
+        return std::nullopt;
+    ArchiveValues values(*this);
+    if (values.nextInteger() != qint64{_graph->objects[_index].valueCount} - 1)
         return std::nullopt;
     std::vector<ArchiveObject> items;
-    for (std::size_t index = 1; index < all.size(); ++index)
-        items.push_back(objectAt(all, index));
+    while (!values.atEnd())
+        items.push_back(values.nextObject());
     return items;
+}
+
+std::optional<qsizetype> ArchiveObject::entryCount() const
+{
+    if (!isKindOf("NSDictionary"))
+        return std::nullopt;
+    const auto count = ArchiveValues(*this).nextInteger();
+    const qint64 values = _graph->objects[_index].valueCount;
+    return count && values % 2 == 1 && *count == values / 2 ? count : std::nullopt;
 }
 
 std::optional<std::vector<ArchiveObject::Entry>> ArchiveObject::toEntries() const
 {
-    const auto all = isKindOf("NSDictionary") ? values() : std::vector<ArchiveValue>();
-    const auto count = integerAt(all, 0);
-    if (!count || all.size() % 2 == 0 || *count != static_cast<qint64>(all.size() / 2))
+    if (!entryCount())
         return std::nullopt;
     std::vector<Entry> entries;
-    for (std::size_t index = 1; index < all.size(); index += 2)
-        entries.emplace_back(objectAt(all, index), objectAt(all, index + 1));
+    ArchiveValues values(*this);
+    for (values.next(); !values.atEnd();) {
+        auto key = values.nextObject();
+        entries.emplace_back(std::move(key), values.nextObject());
+    }
     return entries;
 }
 
 ArchiveObject ArchiveObject::valueForKey(QStringView key) const
 {
-    const auto entries = toEntries();
-    if (!entries)
+    if (!entryCount())
         return {};
-    const auto found = std::find_if(entries->begin(), entries->end(),
-                                    [&](const Entry& entry) { return entry.first.toText() == key; });
-    return found == entries->end() ? ArchiveObject() : found->second;
+    ArchiveValues values(*this);
+    for (values.next(); !values.atEnd();) {
+        const auto found = values.nextObject();
+        auto value = values.nextObject();
+        if (found.toText() == key)
+            return value;
+    }
+    return {};
 }
 
 std::optional<QDateTime> ArchiveObject::toDate() const
 {
     if (!isKindOf("NSDate"))
         return std::nullopt;
-    const auto all = values();
-    const auto seconds = all.empty() ? std::nullopt : realOf(all.front());
+    ArchiveValues values(*this);
+    const auto seconds = realOf(values.next());
     // From the year 1 to the year 9999: anything else is damage.
     if (!seconds || !(*seconds > -63'113'904'000.0 && *seconds < 252'423'993'600.0))
         return std::nullopt;
     static const auto reference = QDateTime(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC).toMSecsSinceEpoch();
-    return QDateTime::fromMSecsSinceEpoch(reference + std::llround(*seconds * 1000), zoneIn(all));
+    return QDateTime::fromMSecsSinceEpoch(reference + std::llround(*seconds * 1000),
+                                          zoneIn(std::move(values)));
 }
 
 std::optional<QString> ArchiveObject::toUrl() const
@@ -263,26 +297,30 @@ std::optional<QString> ArchiveObject::toUrl() const
     QUrl url;
     auto part = *this;
     for (int step = 0; step < furthest && part.isKindOf("NSURL"); ++step) {
-        const auto all = part.values();
-        const auto hasBase = integerAt(all, 0);
-        const auto text = objectAt(all, hasBase && *hasBase != 0 ? 2 : 1).toText();
+        ArchiveValues values(part);
+        const auto hasBase = values.nextInteger().value_or(0) != 0;
+        auto base = hasBase ? values.nextObject() : ArchiveObject();
+        const auto text = values.nextObject().toText();
         if (!text)
             return std::nullopt;
         url = step == 0 ? QUrl(*text) : QUrl(*text).resolved(url);
-        if (*hasBase == 0)
+        if (!hasBase)
             return step == 0 ? *text : url.toString();
-        part = objectAt(all, 1);
+        part = std::move(base);
     }
     return std::nullopt;
 }
 
 std::optional<ArchivedColour> ArchiveObject::toColour() const
 {
-    const auto all = isKindOf("NSColor") ? values() : std::vector<ArchiveValue>();
-    const auto kind = integerAt(all, 0);
+    constexpr std::size_t mostParts = 5;
+    if (!isKindOf("NSColor"))
+        return std::nullopt;
+    ArchiveValues values(*this);
+    const auto kind = values.nextInteger();
     std::vector<float> parts;
-    for (std::size_t index = 1; index < all.size(); ++index) {
-        const auto part = realOf(all[index]);
+    while (!values.atEnd() && parts.size() <= mostParts) {
+        const auto part = realOf(values.next());
         if (part && !std::isnan(*part))
             parts.push_back(static_cast<float>(std::clamp(*part, 0.0, 1.0)));
     }
@@ -295,6 +333,46 @@ std::optional<ArchivedColour> ArchiveObject::toColour() const
         return ArchivedColour{mixed(parts[0]), mixed(parts[1]), mixed(parts[2]), parts[4]};
     }
     return std::nullopt;
+}
+
+ArchiveValues::ArchiveValues(ArchiveObject object) : _object(std::move(object))
+{
+    if (_object.isNil())
+        return;
+    _place = _object.graph()->first(_object.index());
+    _left = _object.graph()->objects[_object.index()].valueCount;
+}
+
+std::optional<ArchiveValue> ArchiveValues::next()
+{
+    if (atEnd())
+        return std::nullopt;
+    --_left;
+    auto item = _object.graph()->next(_place);
+    while (item.tag == Tag::group)
+        item = _object.graph()->next(_place);
+    return valueOf(_object.graph(), item);
+}
+
+std::optional<qint64> ArchiveValues::nextInteger()
+{
+    const auto value = next();
+    const auto* integer = value ? std::get_if<qint64>(&*value) : nullptr;
+    return integer ? std::optional(*integer) : std::nullopt;
+}
+
+std::optional<QByteArray> ArchiveValues::nextBytes()
+{
+    const auto value = next();
+    const auto* bytes = value ? std::get_if<QByteArray>(&*value) : nullptr;
+    return bytes ? std::optional(*bytes) : std::nullopt;
+}
+
+ArchiveObject ArchiveValues::nextObject()
+{
+    const auto value = next();
+    const auto* object = value ? std::get_if<ArchiveObject>(&*value) : nullptr;
+    return object ? *object : ArchiveObject();
 }
 
 } // namespace ridelog

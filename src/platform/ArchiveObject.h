@@ -78,6 +78,8 @@ public:
     using Entry = std::pair<ArchiveObject, ArchiveObject>;
     /// Of a dictionary, keys and values in the order of the archive.
     std::optional<std::vector<Entry>> toEntries() const;
+    /// How many there are, without a look at them.
+    std::optional<qsizetype> entryCount() const;
     /// The value of a dictionary's first entry with this key; nil if there is none.
     ArchiveObject valueForKey(QStringView key) const;
     /// A date. One without a zone, or with one that nobody knows, is in the local time zone.
@@ -94,6 +96,26 @@ public:
 private:
     std::shared_ptr<const ArchiveGraph> _graph;
     std::uint32_t _index = 0;
+};
+
+/// Goes through what `ArchiveObject::values` would answer, one value after another: there may be millions.
+class ArchiveValues {
+public:
+    explicit ArchiveValues(ArchiveObject object);
+
+    bool atEnd() const { return _left == 0; }
+    /// None at the end.
+    std::optional<ArchiveValue> next();
+    /// None for values of other kinds as well.
+    std::optional<qint64> nextInteger();
+    std::optional<QByteArray> nextBytes();
+    /// nil for values of other kinds as well.
+    ArchiveObject nextObject();
+
+private:
+    ArchiveObject _object;
+    std::uint32_t _place = 0;
+    std::uint32_t _left = 0;
 };
 
 } // namespace ridelog

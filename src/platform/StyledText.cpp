@@ -1,5 +1,6 @@
 #include "platform/StyledText.h"
 
+#include "platform/ArchiveGraph.h"
 #include "platform/TypedStreamReader.h"
 #include "platform/TypedStreamWriter.h"
 
@@ -43,22 +44,49 @@ QString fontNameIn(const QByteArray& block)
     return QStringDecoder(QStringDecoder::Utf16)(name.first(std::min<qsizetype>(length, name.size())));
 }
 
-/// Joins neighbours that are alike; no runs at all if none has attributes.
+/// Adds a run, to the last one if that is alike.
 template <typename IsAlike>
-std::vector<StyledText::Run> joined(std::vector<StyledText::Run> runs, IsAlike&& isAlike)
+void add(std::vector<StyledText::Run>& runs, StyledText::Run run, IsAlike&& isAlike)
 {
-    std::vector<StyledText::Run> result;
-    for (auto& run : runs) {
-        if (run.length == 0)
-            continue;
-        if (!result.empty() && isAlike(result.back().attributes, run.attributes))
-            result.back().length += run.length;
-        else
-            result.push_back(std::move(run));
+    if (run.length == 0)
+        return;
+    if (!runs.empty() && isAlike(runs.back().attributes, run.attributes))
+        runs.back().length += run.length;
+    else
+        runs.push_back(std::move(run));
+}
+
+/// No runs at all stand for a text without attributes.
+std::vector<StyledText::Run> unlessPlain(std::vector<StyledText::Run> runs)
+{
+    if (runs.size() == 1 && runs.front().attributes.isNil())
+        runs.clear();
+    return runs;
+}
+
+/// Goes through the runs of a stored styled text and calls `visit(number, length, attributes)`; runs with
+/// attributes that were there before have no more than their number. False for damaged runs.
+template <typename Visit>
+bool forEachStoredRun(const ArchiveObject& stored, Visit&& visit)
+{
+    ArchiveValues values(stored);
+    values.next(); // the text
+    qint64 known = 0;
+    while (!values.atEnd()) {
+        const auto number = values.nextInteger().value_or(0);
+        const auto length = values.nextInteger().value_or(-1);
+        if (number < 1 || number > known + 1 || length < 0)
+            return false;
+        ArchiveObject attributes;
+        if (number > known) {
+            attributes = values.nextObject();
+            if (!attributes.entryCount())
+                return false;
+            known = number;
+        }
+        visit(number, length, attributes);
     }
-    if (result.size() == 1 && result.front().attributes.isNil())
-        result.clear();
-    return result;
+    return true;
 }
 
 /// The dictionary with one entry replaced, or taken away where no value is written; nil if none is left.
@@ -92,40 +120,36 @@ std::optional<StyledText> StyledText::fromArchive(const ArchiveObject& stored)
         return StyledText();
     if (const auto text = stored.toText())
         return StyledText(*text);
-    const auto values = stored.isKindOf("NSAttributedString") ? stored.values() : std::vector<ArchiveValue>();
-    const auto* textObject = values.empty() ? nullptr : std::get_if<ArchiveObject>(&values.front());
-    const auto text = textObject ? textObject->toText() : std::nullopt;
-    if (!text)
+    if (!stored.isKindOf("NSAttributedString"))
         return std::nullopt;
-    std::vector<Run> runs;
-    std::vector<ArchiveObject> dictionaries;
-    auto left = text->size();
-    for (std::size_t at = 1; at < values.size();) {
-        const auto* number = std::get_if<qint64>(&values[at++]);
-        const auto* length = at < values.size() ? std::get_if<qint64>(&values[at++]) : nullptr;
-        if (!number || !length || *number < 1 || *length < 0)
-            return std::nullopt;
-        const auto known = static_cast<qint64>(dictionaries.size());
-        if (*number == known + 1) {
-            const auto* dictionary = at < values.size() ? std::get_if<ArchiveObject>(&values[at++]) : nullptr;
-            const auto entries = dictionary ? dictionary->toEntries() : std::nullopt;
-            if (!entries)
-                return std::nullopt;
-            dictionaries.push_back(entries->empty() ? ArchiveObject() : *dictionary);
-        } else if (*number > known) {
-            return std::nullopt;
-        }
-        const auto inText = std::min(left, static_cast<qsizetype>(*length));
-        runs.push_back({inText, dictionaries[static_cast<std::size_t>(*number) - 1]});
-        left -= inText;
-    }
-    runs.push_back({left, ArchiveObject()});
+    const auto text = ArchiveValues(stored).nextObject().toText();
+    auto& sound = stored.graph()->soundStyledTexts;
+    const auto leave = [](qint64, qint64, const ArchiveObject&) {};
+    if (!text || !(sound.contains(stored.index()) || forEachStoredRun(stored, leave)))
+        return std::nullopt;
+    sound.insert(stored.index());
     StyledText result(*text);
-    // Whole contents are not compared here: a damaged file may have any number of large dictionaries.
-    result._runs =
-        joined(std::move(runs), [](const auto& one, const auto& two) { return one.isSameObject(two); });
     result._stored = stored;
     return result;
+}
+
+/// There may be millions, which nobody asks for before the text is shown.
+std::vector<StyledText::Run> StyledText::storedRuns() const
+{
+    std::vector<Run> runs;
+    std::vector<ArchiveObject> dictionaries;
+    auto left = _text.size();
+    // Whole contents are not compared here: a damaged file may have any number of large dictionaries.
+    const auto isAlike = [](const auto& one, const auto& two) { return one.isSameObject(two); };
+    forEachStoredRun(_stored, [&](qint64 number, qint64 length, const ArchiveObject& attributes) {
+        if (number > static_cast<qint64>(dictionaries.size()))
+            dictionaries.push_back(attributes.entryCount() == 0 ? ArchiveObject() : attributes);
+        const auto inText = std::min(left, static_cast<qsizetype>(length));
+        add(runs, {inText, dictionaries[static_cast<std::size_t>(number) - 1]}, isAlike);
+        left -= inText;
+    });
+    add(runs, {left, ArchiveObject()}, isAlike);
+    return unlessPlain(std::move(runs));
 }
 
 void StyledText::write(TypedStreamWriter& out) const
@@ -155,14 +179,18 @@ void StyledText::write(TypedStreamWriter& out) const
 
 std::vector<StyledText::Run> StyledText::runs() const
 {
-    if (_runs.empty() && !_text.isEmpty())
-        return {{_text.size(), ArchiveObject()}};
-    return _runs;
+    auto all = _stored.isNil() ? _runs : storedRuns();
+    if (all.empty() && !_text.isEmpty())
+        all.push_back({_text.size(), ArchiveObject()});
+    return all;
 }
 
 void StyledText::setRuns(std::vector<Run> runs)
 {
-    _runs = joined(std::move(runs), [](const auto& one, const auto& two) { return one == two; });
+    _runs.clear();
+    for (auto& run : runs)
+        add(_runs, std::move(run), [](const auto& one, const auto& two) { return one == two; });
+    _runs = unlessPlain(std::move(_runs));
     _stored = ArchiveObject();
 }
 
@@ -189,7 +217,7 @@ bool StyledText::operator==(const StyledText& other) const
 
 StyledText::Style StyledText::styleAt(qsizetype position) const
 {
-    for (const auto& run : _runs) {
+    for (const auto& run : runs()) {
         if (position < run.length)
             return styleOf(run.attributes);
         position -= run.length;
@@ -205,15 +233,14 @@ StyledText::Style StyledText::styleOf(const ArchiveObject& attributes)
     const auto link = attributes.valueForKey(linkKey);
     style.link = link.toUrl().value_or(link.toText().value_or(QString()));
     // A font: length of the name block, the block, the size, four more numbers.
-    const auto font = attributes.valueForKey(fontKey).values();
-    if (font.size() < 3)
-        return style;
-    if (const auto* block = std::get_if<QByteArray>(&font[1]))
-        style.fontName = fontNameIn(*block);
-    if (const auto* whole = std::get_if<qint64>(&font[2]))
+    ArchiveValues font(attributes.valueForKey(fontKey));
+    font.next();
+    style.fontName = fontNameIn(font.nextBytes().value_or(QByteArray()));
+    const auto size = font.next().value_or(ArchiveValue());
+    if (const auto* whole = std::get_if<qint64>(&size))
         style.fontSize = static_cast<float>(*whole);
-    else if (const auto* size = std::get_if<double>(&font[2]))
-        style.fontSize = static_cast<float>(*size);
+    else if (const auto* real = std::get_if<double>(&size))
+        style.fontSize = static_cast<float>(*real);
     const auto face = style.fontName.section(u'-', 1);
     style.bold = face.contains(u"Bold");
     style.italic = face.contains(u"Italic") || face.contains(u"Oblique");

@@ -67,10 +67,11 @@ private:
     using WriteValue = std::function<void(TypedStreamWriter&)>;
     void setAttribute(qsizetype from, qsizetype length, const QString& name, const WriteValue& value);
     std::size_t splitAt(qsizetype position);
+    std::vector<Run> storedRuns() const;
     void setRuns(std::vector<Run> runs);
 
     QString _text;
-    std::vector<Run> _runs; ///< empty where no character has an attribute
+    std::vector<Run> _runs; ///< of a text that was changed or made; empty if no character has an attribute
     ArchiveObject _stored;  ///< as it was read; nil once the text has been changed
 };
 

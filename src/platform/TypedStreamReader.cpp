@@ -14,7 +14,8 @@ namespace {
 
 using namespace TypedStream;
 
-constexpr qsizetype usualBytesPerObject = 16;
+/// Of an object: that there is a new one, a reference to its class, its end.
+constexpr qsizetype fewestBytesPerObject = 3;
 constexpr std::size_t deepestNesting = 200;
 constexpr std::size_t longestClassChain = 64;
 constexpr std::size_t mostClasses = 65536;
@@ -24,6 +25,8 @@ constexpr qint64 readAgainFactor = 8;
 constexpr qint64 readAgainAtLeast = 1 << 16;
 /// What a reference costs beside the bytes it stands for.
 constexpr qint64 costOfReference = 16;
+
+const QString otherKind = QStringLiteral("reference to an entry of another kind");
 
 constexpr qsizetype headerSize = 2 + littleEndianSignature.size();
 
@@ -46,7 +49,7 @@ TypedStreamReader::TypedStreamReader(QByteArrayView bytes)
       _graph(std::make_shared<ArchiveGraph>())
 {
     // The table grows to millions of entries: what is not used of this costs nothing.
-    _objects.reserve(static_cast<std::size_t>(bytes.size() / usualBytesPerObject));
+    _objects.reserve(static_cast<std::size_t>(bytes.size() / fewestBytesPerObject));
     readHeader();
 }
 
@@ -183,20 +186,25 @@ TypedStreamReader::Head TypedStreamReader::takeHead(std::uint32_t tableSize, std
 
 // The two tables. What is read again finds its entries there already.
 
-std::uint32_t TypedStreamReader::addEntry(Entry entry, std::uint32_t place)
+std::uint32_t TypedStreamReader::addEntry(TableEntry entry)
 {
     const auto number = _at.objects++;
     if (number == _objects.size())
-        _objects.emplace_back(place, entry);
+        _objects.push_back(entry);
     return number;
 }
 
-bool TypedStreamReader::isEntry(std::uint32_t number, Entry entry)
+bool TypedStreamReader::isObject(std::uint32_t number) const
 {
-    if (_objects[number].entry() == entry)
-        return true;
-    fail(QStringLiteral("reference to an entry of another kind"));
-    return false;
+    const auto entry = _objects[number].entry();
+    return entry == Entry::object || entry == Entry::keptObject;
+}
+
+/// Where an object's class stands.
+std::uint32_t TypedStreamReader::startOf(std::uint32_t object) const
+{
+    const auto entry = _objects[object];
+    return entry.entry() == Entry::keptObject ? _keptStarts[entry.place()] : entry.place();
 }
 
 std::optional<std::uint32_t> TypedStreamReader::takeSharedString()
@@ -228,11 +236,14 @@ std::optional<std::uint32_t> TypedStreamReader::takeCString()
     case Head::nil:
         return std::nullopt;
     case Head::reference:
-        return isEntry(number, Entry::cString) ? std::optional(_objects[number].place()) : std::nullopt;
+        if (_objects[number].entry() == Entry::cString)
+            return _objects[number].place();
+        fail(otherKind);
+        return std::nullopt;
     case Head::isNew:
         break;
     }
-    number = addEntry(Entry::cString, 0);
+    number = addEntry({0, Entry::cString});
     const auto text = takeSharedString();
     if (!text)
         fail(QStringLiteral("a text expected"));
@@ -264,15 +275,17 @@ std::optional<std::uint32_t> TypedStreamReader::takeClass()
             break;
         case Head::reference:
             goesOn = false;
-            if (isEntry(number, Entry::finishedClass))
+            if (_objects[number].isFinishedClass())
                 found = _objects[number].place();
+            else
+                fail(otherKind);
             break;
         case Head::isNew:
             if (length == longestClassChain) {
                 fail(QStringLiteral("a chain of more than 64 classes"));
                 break;
             }
-            number = addEntry(Entry::unfinishedClass, 0);
+            number = addEntry({TableEntry::unfinished, Entry::classEntry});
             const auto name = takeSharedString();
             if (!name || _strings[*name].length == 0 || _strings[*name].length > longestName)
                 fail(QStringLiteral("no class name"));
@@ -284,9 +297,9 @@ std::optional<std::uint32_t> TypedStreamReader::takeClass()
     while (length > 0 && !failed()) {
         const auto& unfinished = chain[--length];
         auto& entry = _objects[unfinished.number];
-        if (entry.entry() == Entry::unfinishedClass) {
+        if (!entry.isFinishedClass()) {
             const auto* superclass = found ? &_graph->classes[*found] : nullptr;
-            entry = {addClass(unfinished.name, unfinished.version, superclass), Entry::finishedClass};
+            entry = {addClass(unfinished.name, unfinished.version, superclass), Entry::classEntry};
         }
         found = entry.place();
     }
@@ -373,33 +386,39 @@ TypedStreamReader::FoundObject TypedStreamReader::takeObject()
     const auto start = _at.position;
     found.head = takeHead(_at.objects, found.number);
     if (found.head == Head::isNew)
-        found.number = addEntry(Entry::object, _at.position);
-    else if (found.head == Head::reference && _objects[found.number].entry() != Entry::object)
-        failAt(start, QStringLiteral("reference to an entry of another kind"));
+        found.number = addEntry({_at.position, Entry::object});
+    else if (found.head == Head::reference && !isObject(found.number))
+        failAt(start, otherKind);
     return failed() ? FoundObject{} : found;
 }
 
-const ArchiveClass* TypedStreamReader::takeObjectClass()
+std::optional<std::uint32_t> TypedStreamReader::takeObjectClass()
 {
     const auto index = takeClass();
     if (!index)
         fail(QStringLiteral("an object without a class"));
-    return index ? &_graph->classes[*index] : nullptr;
+    return index;
 }
 
-/// Goes from behind an object's head to its groups, for a reference to where they stand.
-const ArchiveClass* TypedStreamReader::goToBody(FoundObject found)
+/// Goes from behind an object's head to its class, for a reference to where it stands.
+void TypedStreamReader::goTo(FoundObject found)
 {
     _at.types = -1;
-    if (found.head == Head::reference) {
-        _at.position = _objects[found.number].place();
-        _at.objects = found.number + 1;
-        const auto behind = std::partition_point(_strings.begin(), _strings.end(), [&](const auto& string) {
-            return string.offset < _at.position;
-        });
-        _at.strings = static_cast<std::uint32_t>(behind - _strings.begin());
-    }
-    return takeObjectClass();
+    if (found.head != Head::reference)
+        return;
+    _at.position = startOf(found.number);
+    _at.objects = found.number + 1;
+    const auto behind = std::partition_point(
+        _strings.begin(), _strings.end(), [&](const auto& string) { return string.offset < _at.position; });
+    _at.strings = static_cast<std::uint32_t>(behind - _strings.begin());
+}
+
+/// The same, and past the class to the object's groups.
+const ArchiveClass* TypedStreamReader::goToBody(FoundObject found)
+{
+    goTo(found);
+    const auto index = takeObjectClass();
+    return index ? &_graph->classes[*index] : nullptr;
 }
 
 bool TypedStreamReader::mayNest(std::size_t depth)
@@ -424,7 +443,7 @@ const ArchiveClass* TypedStreamReader::open(FoundObject found, Cursor value)
     const auto* objectClass = goToBody(found);
     if (!objectClass)
         return nullptr;
-    _open.push_back({parent, found.number, _objects[found.number].place(), isReference});
+    _open.push_back({parent, found.number, startOf(found.number), isReference});
     return objectClass;
 }
 
@@ -475,9 +494,7 @@ void TypedStreamReader::closeObject()
 {
     const auto object = _open.back();
     if (object.isReference) {
-        _mayReadAgain -= costOfReference + _at.position - object.start;
-        if (_mayReadAgain < 0)
-            fail(QStringLiteral("references to the same objects over and over again"));
+        readAgain(qint64{_at.position} - object.start);
         _open.pop_back();
         _at = object.parent;
         return;
@@ -548,7 +565,13 @@ void TypedStreamReader::skipItem(std::int32_t types, std::uint32_t item, std::si
 
 void TypedStreamReader::skipObject(std::size_t depth)
 {
-    if (takeObject().head != Head::isNew || !mayNest(depth) || !takeObjectClass())
+    if (takeObject().head == Head::isNew)
+        skipBody(depth);
+}
+
+void TypedStreamReader::skipBody(std::size_t depth)
+{
+    if (!mayNest(depth) || !takeObjectClass())
         return;
     std::optional<std::uint32_t> typeString;
     for (auto types = takeGroup(typeString); types >= 0; types = takeGroup(typeString)) {
@@ -558,6 +581,14 @@ void TypedStreamReader::skipObject(std::size_t depth)
         }
     }
     takeByte(); // the end mark
+}
+
+/// Counts what a reference makes to be gone through once more.
+void TypedStreamReader::readAgain(qint64 bytes)
+{
+    _mayReadAgain -= costOfReference + bytes;
+    if (_mayReadAgain < 0)
+        fail(QStringLiteral("references to the same objects over and over again"));
 }
 
 // Values

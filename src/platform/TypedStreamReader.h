@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <optional>
 #include <type_traits>
@@ -121,7 +122,7 @@ private:
         std::int32_t kept = -1;  ///< index in the graph's strings, once it was kept
     };
 
-    enum class Entry : std::uint32_t { object, unfinishedClass, finishedClass, cString };
+    enum class Entry : std::uint32_t { object, keptObject, classEntry, cString };
     /// Four bytes, for there are millions of objects.
     class TableEntry {
     public:
@@ -129,9 +130,12 @@ private:
         {
         }
         Entry entry() const { return static_cast<Entry>(_bits & 3); }
-        /// For an object, where its class stands; for a class, its index in the graph; for a C string, that
-        /// of its text. Archives are not large enough for more than 30 bits.
+        /// For an object, where its class stands; for one that was kept, its index in the graph, as for a
+        /// class; for a C string, that of its text. Archives are not large enough for more than 30 bits.
         std::uint32_t place() const { return _bits >> 2; }
+        /// A class whose superclasses are still being read has no place.
+        static constexpr std::uint32_t unfinished = 0x3FFFFFFF;
+        bool isFinishedClass() const { return entry() == Entry::classEntry && place() != unfinished; }
 
     private:
         std::uint32_t _bits;
@@ -167,8 +171,9 @@ private:
     Head takeHead(std::uint32_t tableSize, std::uint32_t& number);
 
     // The two tables
-    std::uint32_t addEntry(Entry entry, std::uint32_t place);
-    bool isEntry(std::uint32_t number, Entry entry);
+    std::uint32_t addEntry(TableEntry entry);
+    bool isObject(std::uint32_t number) const;
+    std::uint32_t startOf(std::uint32_t object) const;
     std::optional<std::uint32_t> takeSharedString();
     std::optional<std::uint32_t> takeCString();
     std::optional<std::uint32_t> takeClass();
@@ -181,13 +186,16 @@ private:
     Item next();
     void consume(const Item& item);
     FoundObject takeObject();
-    const ArchiveClass* takeObjectClass();
+    std::optional<std::uint32_t> takeObjectClass();
+    void goTo(FoundObject found);
     const ArchiveClass* goToBody(FoundObject found);
     const ArchiveClass* open(FoundObject found, Cursor value);
     bool openKindOf(QByteArrayView className);
     bool mayNest(std::size_t depth);
     void skipItem(std::int32_t types, std::uint32_t item, std::size_t depth);
     void skipObject(std::size_t depth);
+    void skipBody(std::size_t depth);
+    void readAgain(qint64 bytes);
 
     // Well-known classes
     std::optional<qsizetype> openCounted(QByteArrayView className);
@@ -197,11 +205,14 @@ private:
     qsizetype bytesLeft() const { return _bytes.size() - _at.position; }
 
     // Keeping
-    std::uint32_t addKept(const ArchiveClass* objectClass);
-    std::uint32_t keep(FoundObject found, std::size_t depth);
-    void keepGroups(std::uint32_t kept, std::size_t depth);
-    void keepItem(std::int32_t types, std::uint32_t item, std::size_t depth);
-    ArchiveGraph::Value keptValue(const Item& item, std::size_t depth);
+    std::uint32_t keptIndex(FoundObject found);
+    void keep(std::uint32_t index, FoundObject found, std::size_t depth);
+    void keepBody(std::uint32_t index, FoundObject found, std::size_t depth);
+    std::uint32_t keepGroups(std::size_t depth);
+    std::uint32_t keepItem(std::int32_t types, std::uint32_t item, std::size_t depth);
+    void keepObject(std::size_t depth);
+    ArchiveGraph::Value takeValue(const Item& item);
+    void keepValue(const ArchiveGraph::Value& value);
     void keepReferenced();
     std::uint32_t keptString(std::uint32_t string);
 
@@ -210,18 +221,15 @@ private:
     bool _bigEndian = false;
     Cursor _at;
     std::vector<OpenObject> _open;
-    std::vector<SharedString> _strings;
+    std::deque<SharedString> _strings;
     std::vector<TableEntry> _objects;
     std::vector<ArchiveTypes> _types;
     qint64 _mayReadAgain = 0;             ///< bytes, for references
     QHash<std::uint32_t, QString> _texts; ///< of string objects that were referred to, by number
 
     std::shared_ptr<ArchiveGraph> _graph;
-    QHash<std::uint32_t, std::uint32_t> _kept; ///< from an object's number to its index in the graph
-    std::vector<Cursor> _keptEnds;             ///< by index in the graph: behind it, position 0 if not read
-    std::vector<std::uint32_t> _toKeep;        ///< numbers of objects that kept ones refer to
-    std::vector<ArchiveGraph::Group> _keptGroups; ///< of the objects that are being kept, the inner ones last
-    std::vector<ArchiveGraph::Value> _keptValues;
+    std::deque<std::uint32_t> _keptStarts; ///< by index in the graph: where the object's class stands
+    std::vector<std::uint32_t> _toKeep;    ///< numbers of objects that kept ones refer to
 };
 
 template <typename Visit>

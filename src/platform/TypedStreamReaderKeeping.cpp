@@ -1,5 +1,5 @@
 // The reader's part that keeps objects structurally. Each object of an archive is kept once at most, however
-// often it is referred to, so that this takes no more than the archive's size.
+// often it is referred to.
 
 #include "platform/TypedStreamMarks.h"
 #include "platform/TypedStreamReader.h"
@@ -20,7 +20,8 @@ ArchiveObject TypedStreamReader::readObject()
     const auto found = takeObject();
     if (found.head == Head::nil)
         return {};
-    const auto index = keep(found, 0);
+    const auto index = keptIndex(found);
+    keep(index, found, 0);
     _at.types = group.types;
     _at.item = group.item;
     keepReferenced();
@@ -29,41 +30,49 @@ ArchiveObject TypedStreamReader::readObject()
 
 ArchiveObject TypedStreamReader::readArchive()
 {
-    const auto index = addKept(nullptr);
-    keepGroups(index, 0);
+    const auto index = _graph->addObject();
+    _keptStarts.push_back(_at.position);
+    _graph->begin(index, std::nullopt);
+    _graph->end(index, keepGroups(0));
     if (!failed() && bytesLeft() > 0)
         fail(QStringLiteral("the end of an object that was not begun"));
     keepReferenced();
     return failed() ? ArchiveObject() : ArchiveObject(_graph, index);
 }
 
-std::uint32_t TypedStreamReader::addKept(const ArchiveClass* objectClass)
+/// The index in the graph. An object that is new there and only referred to is noted for later.
+std::uint32_t TypedStreamReader::keptIndex(FoundObject found)
 {
-    _graph->objects.push_back({.objectClass = objectClass});
-    _keptEnds.emplace_back();
-    return static_cast<std::uint32_t>(_graph->objects.size() - 1);
+    auto& entry = _objects[found.number];
+    if (entry.entry() != Entry::keptObject) {
+        _keptStarts.push_back(entry.place());
+        entry = {_graph->addObject(), Entry::keptObject};
+        if (found.head == Head::reference)
+            _toKeep.push_back(found.number);
+    }
+    return entry.place();
 }
 
-/// Answers the index in the graph of the object found. A new one is read, one referred to noted for later.
-std::uint32_t TypedStreamReader::keep(FoundObject found, std::size_t depth)
+/// Reads a new object, or passes over one that was kept before because something refers to it.
+void TypedStreamReader::keep(std::uint32_t index, FoundObject found, std::size_t depth)
 {
-    const auto known = _kept.constFind(found.number);
-    const bool isKnown = known != _kept.constEnd();
-    const auto index = isKnown ? *known : addKept(nullptr);
-    if (!isKnown)
-        _kept.insert(found.number, index);
-    if (found.head == Head::reference) {
-        if (!isKnown)
-            _toKeep.push_back(found.number);
-    } else if (_keptEnds[index].position > 0) {
-        _at = _keptEnds[index];
-    } else if (mayNest(depth)) {
-        _graph->objects[index].objectClass = goToBody(found);
-        keepGroups(index, depth + 1);
-        takeByte(); // the end mark
-        _keptEnds[index] = _at;
-    }
-    return index;
+    if (found.head == Head::reference)
+        return;
+    if (!_graph->isKept(index))
+        return keepBody(index, found, depth);
+    const auto start = _at.position;
+    skipBody(depth);
+    readAgain(qint64{_at.position} - start);
+}
+
+void TypedStreamReader::keepBody(std::uint32_t index, FoundObject found, std::size_t depth)
+{
+    if (!mayNest(depth))
+        return;
+    goTo(found);
+    _graph->begin(index, takeObjectClass());
+    _graph->end(index, keepGroups(depth + 1));
+    takeByte(); // the end mark
 }
 
 /// What kept objects refer to is read where it stands, not inside of what refers to it: a chain of references
@@ -74,74 +83,80 @@ void TypedStreamReader::keepReferenced()
     while (!_toKeep.empty() && !failed()) {
         const auto number = _toKeep.back();
         _toKeep.pop_back();
-        const auto index = _kept.value(number);
-        if (_keptEnds[index].position > 0)
-            continue;
-        _graph->objects[index].objectClass = goToBody({Head::reference, number});
-        keepGroups(index, 1);
-        takeByte(); // the end mark
-        _keptEnds[index] = _at;
+        if (const auto index = _objects[number].place(); !_graph->isKept(index))
+            keepBody(index, {Head::reference, number}, 0);
     }
     _at = here;
 }
 
-/// Reads an object's groups up to its end mark, or the archive's up to its end. An object's values have to
-/// lie in a row, so they wait in _keptValues until those of the objects inside are out of the way.
-void TypedStreamReader::keepGroups(std::uint32_t kept, std::size_t depth)
+/// Keeps an object's groups up to its end mark, or the archive's up to its end, and answers how many values
+/// are in them.
+std::uint32_t TypedStreamReader::keepGroups(std::size_t depth)
 {
-    const auto firstGroup = _keptGroups.size();
-    const auto firstValue = _keptValues.size();
+    std::uint32_t values = 0;
     const bool isArchive = depth == 0;
     while (!failed() && !(isArchive && bytesLeft() == 0)) {
         std::optional<std::uint32_t> typeString;
         const auto types = takeGroup(typeString);
         if (types < 0)
             break;
-        const auto before = _keptValues.size();
+        keepValue({Tag::group, keptString(*typeString)});
         for (std::uint32_t item = 0; item < _types[static_cast<std::size_t>(types)].size() && !failed();) {
-            keepItem(types, item, depth);
+            values += keepItem(types, item, depth);
             item += _types[static_cast<std::size_t>(types)][item].span;
         }
-        _keptGroups.push_back(
-            {keptString(*typeString), static_cast<std::uint32_t>(_keptValues.size() - before)});
     }
-    const auto moveTail = [](auto& from, std::size_t first, auto& to) {
-        const auto tail = from.begin() + static_cast<std::ptrdiff_t>(first);
-        const auto index = static_cast<std::uint32_t>(to.size());
-        to.insert(to.end(), tail, from.end());
-        from.erase(tail, from.end());
-        return index;
-    };
-    auto& object = _graph->objects[kept];
-    object.groupCount = static_cast<std::uint32_t>(_keptGroups.size() - firstGroup);
-    object.firstGroup = moveTail(_keptGroups, firstGroup, _graph->groups);
-    object.firstValue = moveTail(_keptValues, firstValue, _graph->values);
+    return values;
 }
 
-void TypedStreamReader::keepItem(std::int32_t types, std::uint32_t item, std::size_t depth)
+/// Answers how many values it kept, those of objects inside not counted.
+std::uint32_t TypedStreamReader::keepItem(std::int32_t types, std::uint32_t item, std::size_t depth)
 {
     const auto what = _types[static_cast<std::size_t>(types)][item];
+    std::uint32_t values = 0;
     if (what.kind == Kind::array) {
         for (std::uint32_t element = 0; element < what.count && !failed(); ++element)
-            keepItem(types, item + 1, depth);
-    } else if (what.kind == Kind::structure) {
+            values += keepItem(types, item + 1, depth);
+        return values;
+    }
+    if (what.kind == Kind::structure) {
         for (auto field = item + 1; field < item + what.span && !failed();) {
-            keepItem(types, field, depth);
+            values += keepItem(types, field, depth);
             field += _types[static_cast<std::size_t>(types)][field].span;
         }
-    } else {
-        const auto value = keptValue(what, depth);
-        _keptValues.push_back(value);
+        return values;
     }
+    if (what.kind == Kind::object)
+        keepObject(depth);
+    else
+        keepValue(takeValue(what));
+    return 1;
 }
 
-ArchiveGraph::Value TypedStreamReader::keptValue(const Item& item, std::size_t depth)
+void TypedStreamReader::keepObject(std::size_t depth)
 {
-    const auto orNil = [](Tag tag, std::optional<qint64> value) {
-        return value ? ArchiveGraph::Value{tag, *value} : ArchiveGraph::Value{};
+    const auto found = takeObject();
+    if (found.head == Head::nil)
+        return keepValue({});
+    const auto index = keptIndex(found);
+    const bool standsHere = found.head == Head::isNew && !_graph->isKept(index);
+    keepValue({standsHere ? Tag::inner : Tag::object, index});
+    keep(index, found, depth);
+}
+
+void TypedStreamReader::keepValue(const ArchiveGraph::Value& value)
+{
+    _graph->add(value);
+}
+
+/// Reads a value that is no object.
+ArchiveGraph::Value TypedStreamReader::takeValue(const Item& item)
+{
+    const auto orNil = [](Tag tag, std::optional<std::uint32_t> index) {
+        return index ? ArchiveGraph::Value{tag, *index} : ArchiveGraph::Value{};
     };
     const auto ofString = [&](std::optional<std::uint32_t> string) {
-        return string && !failed() ? std::optional<qint64>(keptString(*string)) : std::nullopt;
+        return string && !failed() ? std::optional(keptString(*string)) : std::nullopt;
     };
     switch (item.kind) {
     case Kind::byte:
@@ -151,11 +166,6 @@ ArchiveGraph::Value TypedStreamReader::keptValue(const Item& item, std::size_t d
         return {Tag::integer, takeIntegerOfType(item.code)};
     case Kind::real:
         return takeReal(item.code);
-    case Kind::object: {
-        const auto found = takeObject();
-        return found.head == Head::nil ? ArchiveGraph::Value{}
-                                       : ArchiveGraph::Value{Tag::object, keep(found, depth)};
-    }
     case Kind::classRef:
         return orNil(Tag::classRef, takeClass());
     case Kind::cString:
@@ -164,12 +174,12 @@ ArchiveGraph::Value TypedStreamReader::keptValue(const Item& item, std::size_t d
         return orNil(Tag::atom, ofString(takeSharedString()));
     case Kind::text: {
         const auto bytes = takeText();
-        return bytes.isNull() ? ArchiveGraph::Value{}
-                              : ArchiveGraph::Value{Tag::text, _graph->addBytes(bytes)};
+        return bytes.isNull() ? ArchiveGraph::Value{} : ArchiveGraph::Value{Tag::text, 0, bytes};
     }
     case Kind::block:
-        return {Tag::block, _graph->addBytes(takeBytes(item.count))};
+        return {Tag::block, 0, takeBytes(item.count)};
     case Kind::none:
+    case Kind::object:
     case Kind::array:
     case Kind::structure:
         break;

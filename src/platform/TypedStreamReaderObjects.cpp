@@ -107,7 +107,7 @@ qsizetype TypedStreamReader::copyBlocksLike(const Cursor& first, char* out, qsiz
     if (!isPlain)
         return 0;
     const auto* pattern = _bytes.data() + first.position;
-    const auto classAfter = _objects[first.objects].place() - first.position;
+    const auto classAfter = startOf(first.objects) - first.position;
     qsizetype copied = 0;
     while (copied < count && bytesLeft() >= length) {
         const auto* block = _bytes.data() + _at.position;
@@ -115,7 +115,7 @@ qsizetype TypedStreamReader::copyBlocksLike(const Cursor& first, char* out, qsiz
             static_cast<std::uint8_t>(block[length - 1]) != TypedStream::endOfObject)
             break;
         std::memcpy(out + copied * blockSize, block + before, static_cast<std::size_t>(blockSize));
-        addEntry(Entry::object, _at.position + classAfter);
+        addEntry({_at.position + classAfter, Entry::object});
         _at.position += static_cast<std::uint32_t>(length);
         ++copied;
     }

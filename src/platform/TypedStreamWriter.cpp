@@ -230,55 +230,54 @@ void TypedStreamWriter::putKept(const GraphPointer& graph, std::uint32_t index)
     if (_openObjects >= deepestNesting)
         return putNil();
     numbers.insert(index, _objectCount);
-    putObject(*graph->objects[index].objectClass);
+    putObject(*graph->classOf(index));
     putKeptGroups(graph, index);
     endObject();
 }
 
 void TypedStreamWriter::putKeptGroups(const GraphPointer& graph, std::uint32_t index)
 {
-    const auto& object = graph->objects[index];
-    std::size_t next = object.firstValue;
-    for (std::uint32_t at = 0; at < object.groupCount; ++at) {
-        const auto& written = graph->groups[object.firstGroup + at];
-        group(graph->string(written.types));
-        for (const auto end = next + written.valueCount; next < end; ++next) {
-            const auto value = graph->values[next];
-            switch (value.tag) {
-            case Tag::nil:
-                putNil();
-                break;
-            case Tag::byte:
-                putByte(static_cast<char>(value.value));
-                break;
-            case Tag::integer:
-                putInteger(value.value);
-                break;
-            case Tag::float32:
-                putReal(static_cast<std::uint32_t>(value.value));
-                break;
-            case Tag::float64:
-                putReal(static_cast<quint64>(value.value));
-                break;
-            case Tag::object:
-                putKept(graph, static_cast<std::uint32_t>(value.value));
-                break;
-            case Tag::classRef:
-                putClass(&graph->classes[static_cast<std::size_t>(value.value)]);
-                break;
-            case Tag::cString:
-                putCString(graph->string(value.value));
-                break;
-            case Tag::atom:
-                putShared(graph->string(value.value));
-                break;
-            case Tag::text:
-                putText(graph->bytes(value));
-                break;
-            case Tag::block:
-                putBytes(graph->bytes(value));
-                break;
-            }
+    const auto end = graph->objects[index].end;
+    for (auto place = graph->first(index); place < end;) {
+        const auto item = graph->next(place);
+        switch (item.tag) {
+        case Tag::group:
+            group(graph->string(item.value));
+            break;
+        case Tag::nil:
+            putNil();
+            break;
+        case Tag::byte:
+            putByte(static_cast<char>(item.value));
+            break;
+        case Tag::integer:
+            putInteger(item.value);
+            break;
+        case Tag::float32:
+            putReal(static_cast<std::uint32_t>(item.value));
+            break;
+        case Tag::float64:
+            putReal(static_cast<quint64>(item.value));
+            break;
+        case Tag::inner:
+        case Tag::object:
+            putKept(graph, static_cast<std::uint32_t>(item.value));
+            break;
+        case Tag::classRef:
+            putClass(&graph->classes[static_cast<std::size_t>(item.value)]);
+            break;
+        case Tag::cString:
+            putCString(graph->string(item.value));
+            break;
+        case Tag::atom:
+            putShared(graph->string(item.value));
+            break;
+        case Tag::text:
+            putText(item.bytes);
+            break;
+        case Tag::block:
+            putBytes(item.bytes);
+            break;
         }
     }
 }

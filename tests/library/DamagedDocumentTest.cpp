@@ -47,32 +47,137 @@ struct Outcomes {
     }
 };
 
-TEST(DamagedDocument, ALongTextOfManyToursIsHeldOnce)
+const ArchiveClass tourClass{"OdoTour", 2, &ArchiveClasses::object};
+
+/// A library of so many tours, and of something that a later version may have put there.
+template <typename WriteTour, typename WriteOther>
+QByteArray library(int tours, WriteTour&& writeTour, WriteOther&& writeOther)
 {
-    const QString text(1 << 20, u'x');
-    const ArchiveClass tourClass{"OdoTour", 2, &ArchiveClasses::object};
-    const auto bytes = written([&](TypedStreamWriter& out) {
-        out.beginDictionary(2);
+    return written([&](TypedStreamWriter& out) {
+        out.beginDictionary(3);
         out.writeConstant(QStringLiteral("generalData"));
         out.beginDictionary(0);
         out.endObject();
         out.writeConstant(QStringLiteral("toursArray"));
-        out.beginArray(500);
-        for (int tour = 0; tour < 500; ++tour) {
+        out.beginArray(tours);
+        for (int tour = 0; tour < tours; ++tour) {
             out.beginObject(tourClass);
             out.writeNil();
-            out.writeConstant(text);
-            out.writeConstant(text);
+            writeTour(out);
             out.endObject();
         }
         out.endObject();
+        out.writeConstant(QStringLiteral("other"));
+        writeOther(out);
         out.endObject();
     });
+}
+
+/// Loads the library with the memory that it may take, and answers why it was refused, or nothing.
+std::string refusalInMemory(MyDocument& document, const QByteArray& bytes)
+{
     const PeakMemory memory;
-    MyDocument document;
-    EXPECT_EQ(refusalOf(document, bytes), "");
-    EXPECT_EQ(document.toursArray().back()->tourDescription().text(), text);
+    auto refusal = refusalOf(document, bytes);
     EXPECT_TRUE(!measuresMemory || memory.risen() < 64 << 20) << memory.risen();
+    return refusal;
+}
+
+void writeNil(TypedStreamWriter& out)
+{
+    out.writeNil();
+}
+
+void writeNames(TypedStreamWriter& out)
+{
+    out.writeConstant(QStringLiteral("title"));
+    out.writeConstant(QStringLiteral("description"));
+}
+
+TEST(DamagedDocument, ALongTextOfManyToursIsHeldOnce)
+{
+    const QString text(1 << 20, u'x');
+    const auto writeTexts = [&](TypedStreamWriter& out) {
+        out.writeConstant(text);
+        out.writeConstant(text);
+    };
+    MyDocument document;
+    EXPECT_EQ(refusalInMemory(document, library(500, writeTexts, writeNil)), "");
+    EXPECT_EQ(document.toursArray().back()->tourDescription().text(), text);
+}
+
+TEST(DamagedDocument, MillionsOfSmallThingsTakeLittleMemory)
+{
+    const ArchiveClass root{"Later", 1, nullptr};
+    const auto many = [&](int count, const char* type, auto&& put) {
+        MyDocument document;
+        const auto bytes = library(1, writeNames, [&](TypedStreamWriter& out) {
+            out.beginObject(root);
+            out.group('[' + QByteArray::number(count) + type + ']');
+            for (int value = 0; value < count; ++value)
+                put(out);
+            out.endObject();
+        });
+        EXPECT_EQ(refusalInMemory(document, bytes), "") << type;
+    };
+    many(3'000'000, "@", [](TypedStreamWriter& out) { out.putNil(); });
+    many(3'000'000, "i", [](TypedStreamWriter& out) { out.putInteger(7); });
+    many(800'000, "@", [&](TypedStreamWriter& out) {
+        out.putObject(root);
+        out.endObject();
+    });
+}
+
+TEST(DamagedDocument, ManyRunsOfManyToursTakeLittleMemory)
+{
+    constexpr int runs = 500'000;
+    std::optional<std::uint32_t> description;
+    const auto bytes = library(
+        300,
+        [&](TypedStreamWriter& out) {
+            out.writeConstant(QStringLiteral("title"));
+            if (description)
+                return out.writeReference(*description);
+            description = out.beginObject(ArchiveClasses::attributedString);
+            out.writeString(QString(runs, u'x'));
+            for (int run = 0; run < runs; ++run) {
+                out.group("iI");
+                out.putInteger(run % 2 + 1);
+                out.putInteger(1);
+                if (run > 1)
+                    continue;
+                out.beginDictionary(1);
+                out.writeConstant(QStringLiteral("key"));
+                out.writeNil();
+                out.endObject();
+            }
+            out.endObject();
+        },
+        writeNil);
+    MyDocument document;
+    EXPECT_EQ(refusalInMemory(document, bytes), "");
+    EXPECT_EQ(document.toursArray().back()->tourDescription().runs().size(), std::size_t{runs});
+}
+
+TEST(DamagedDocument, ManyToursWithNotesAndUnknownThingsAreOpened)
+{
+    StyledText note(QString(500, u'x'));
+    const auto bytes = library(
+        3000,
+        [&](TypedStreamWriter& out) {
+            for (int link = 0; link < 10; ++link)
+                note.setLink(link * 50, 20, QStringLiteral("https://example.org/pass"));
+            out.writeConstant(QStringLiteral("title"));
+            note.write(out);
+        },
+        [](TypedStreamWriter& out) {
+            out.beginArray(300'000);
+            for (int number = 0; number < 300'000; ++number)
+                out.writeNumber(ArchiveNumber(number % 100));
+            out.endObject();
+        });
+    MyDocument document;
+    EXPECT_EQ(refusalInMemory(document, bytes), "");
+    EXPECT_EQ(document.toursArray().back()->tourDescription(), note);
 }
 
 TEST(DamagedDocument, IsRefusedOrOpenedWhateverHappenedToIt)
