@@ -19,6 +19,9 @@ const QString toursArrayKey = QStringLiteral("toursArray");
 /// A document of five million samples need not stand in memory twice: it is passed on in such pieces.
 constexpr qsizetype pieceSize = 1 << 20;
 
+/// An entry that is kept goes to a growing list; a number goes to a map, which takes as much.
+constexpr qint64 costOfEntry = TypedStreamReader::costOfGrowth * sizeof(std::pair<QString, ArchiveObject>);
+
 void addTo(GeneralData& numbers, const QString& key, const ArchiveObject& value,
            std::vector<std::pair<QString, ArchiveObject>>& otherEntries)
 {
@@ -62,6 +65,7 @@ struct MyDocument::Content {
     {
         StoredGeneralData generalData;
         const bool isDictionary = reader.readDictionary([&](const QString& key) {
+            reader.charge(costOfEntry);
             addTo(generalData.numbers, key, reader.readObject(), generalData.otherEntries);
         });
         if (!isDictionary)
@@ -72,6 +76,7 @@ struct MyDocument::Content {
     void read(TypedStreamReader& reader, const QDateTime& now)
     {
         const bool isDictionary = reader.readDictionary([&](const QString& key) {
+            reader.charge(costOfEntry);
             if (key == toursArrayKey && !tours)
                 tours = readTours(reader, now);
             else if (key == generalDataKey && !generalData)

@@ -10,6 +10,8 @@ namespace {
 
 constexpr int storedVersion = 6;
 constexpr char tourClassName[] = "OdoTour";
+/// A tour takes itself, its place in lists, and small blocks: the first entry of its series, date, texts.
+constexpr qint64 costOfTour = sizeof(OdoTour) + 12 * TypedStreamReader::costOfBlock;
 const QString samplesKey = QStringLiteral("tourData");
 
 const ArchiveClass& tourClass()
@@ -59,6 +61,7 @@ std::optional<TourDictionary> readDictionary(TypedStreamReader& reader)
     const bool isDictionary = reader.readDictionary([&](const QString& key) {
         if (key == samplesKey && dictionary.tourData.empty() && isNext(reader, "NSArray")) {
             dictionary.tourData = reader.readRecords<DataRect>().value_or(std::vector<DataRect>());
+            reader.charge(qint64{sizeof(SeriesEntry)} * static_cast<qint64>(dictionary.tourData.size()));
             return;
         }
         bool taken = false;
@@ -66,8 +69,10 @@ std::optional<TourDictionary> readDictionary(TypedStreamReader& reader)
             if (name == key)
                 taken = readField(reader, field);
         });
-        if (!taken)
+        if (!taken) {
+            reader.charge(TypedStreamReader::costOfGrowth * sizeof dictionary.otherEntries.back());
             dictionary.otherEntries.emplace_back(key, reader.readObject());
+        }
     });
     return isDictionary ? std::optional(std::move(dictionary)) : std::nullopt;
 }
@@ -119,6 +124,7 @@ std::shared_ptr<OdoTour> OdoTour::initWithCoder(TypedStreamReader& reader, const
         return nullptr;
     }
 
+    reader.charge(costOfTour);
     auto tour = make();
     tour->_title = untitled();
     tour->_description = StyledText(untitled());

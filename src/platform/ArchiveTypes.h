@@ -40,6 +40,8 @@ public:
     static std::optional<ArchiveTypes> parse(QByteArrayView text);
 
     std::uint32_t size() const { return static_cast<std::uint32_t>(_items.size()); }
+    /// Bytes that it takes on the heap.
+    qsizetype memory() const { return qsizetype{sizeof(Item)} * static_cast<qsizetype>(_items.capacity()); }
     const Item& operator[](std::uint32_t item) const { return _items[item]; }
 
 private:

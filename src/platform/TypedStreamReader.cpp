@@ -26,6 +26,12 @@ constexpr qint64 readAgainAtLeast = 1 << 16;
 /// What a reference costs beside the bytes it stands for.
 constexpr qint64 costOfReference = 16;
 
+/// Beside its bytes an archive takes so many times its size in memory at most, a small one so much, of which
+/// this is left to what nobody counts.
+constexpr qint64 memoryFactor = 4;
+constexpr qint64 memoryAtLeast = 64 << 20;
+constexpr qint64 memoryNotCounted = 8 << 20;
+
 const QString otherKind = QStringLiteral("reference to an entry of another kind");
 
 constexpr qsizetype headerSize = 2 + littleEndianSignature.size();
@@ -34,6 +40,11 @@ bool hasSignature(QByteArrayView bytes, QByteArrayView signature)
 {
     return bytes.size() >= headerSize && bytes[1] == signature.size() &&
            bytes.sliced(2, signature.size()) == signature;
+}
+
+qint64 memoryFor(qsizetype archive)
+{
+    return std::max(memoryFactor * archive, memoryAtLeast) - memoryNotCounted;
 }
 
 } // namespace
@@ -46,6 +57,7 @@ QString TypedStreamError::text() const
 TypedStreamReader::TypedStreamReader(QByteArrayView bytes)
     : _bytes(bytes),
       _mayReadAgain(readAgainFactor * bytes.size() + readAgainAtLeast),
+      _mayTake(memoryFor(bytes.size())),
       _graph(std::make_shared<ArchiveGraph>())
 {
     // The table grows to millions of entries: what is not used of this costs nothing.
@@ -80,6 +92,12 @@ void TypedStreamReader::failAt(qsizetype offset, const QString& what)
 {
     if (!_error)
         _error = TypedStreamError{what, offset};
+}
+
+void TypedStreamReader::failForMemory()
+{
+    fail(
+        QStringLiteral("what it holds takes more than %1 MiB of memory").arg(memoryFor(_bytes.size()) >> 20));
 }
 
 // Bytes and integers
@@ -189,8 +207,10 @@ TypedStreamReader::Head TypedStreamReader::takeHead(std::uint32_t tableSize, std
 std::uint32_t TypedStreamReader::addEntry(TableEntry entry)
 {
     const auto number = _at.objects++;
-    if (number == _objects.size())
+    if (number == _objects.size()) {
         _objects.push_back(entry);
+        charge(sizeof entry);
+    }
     return number;
 }
 
@@ -224,8 +244,10 @@ std::optional<std::uint32_t> TypedStreamReader::takeSharedString()
     if (failed())
         return std::nullopt;
     index = _at.strings++;
-    if (index == _strings.size())
+    if (index == _strings.size()) {
         _strings.push_back({offset, static_cast<std::uint32_t>(length)});
+        charge(sizeof(SharedString));
+    }
     return index;
 }
 
@@ -315,6 +337,7 @@ std::uint32_t TypedStreamReader::addClass(std::uint32_t name, int version, const
         fail(QStringLiteral("a chain of more than 64 classes"));
     if (_graph->classes.size() == mostClasses)
         fail(QStringLiteral("more than 65,536 classes"));
+    charge(sizeof(ArchiveClass));
     _graph->classes.push_back({_graph->string(keptString(name)), version, superclass});
     return static_cast<std::uint32_t>(_graph->classes.size() - 1);
 }
@@ -325,6 +348,7 @@ std::uint32_t TypedStreamReader::keptString(std::uint32_t string)
     if (shared.kept < 0) {
         shared.kept = static_cast<std::int32_t>(_graph->strings.size());
         _graph->strings.push_back(stringAt(string).toByteArray());
+        charge(qint64{sizeof(QByteArray)} + costOfBlock + shared.length);
     }
     return static_cast<std::uint32_t>(shared.kept);
 }
@@ -343,6 +367,7 @@ std::int32_t TypedStreamReader::takeGroup(std::optional<std::uint32_t>& typeStri
     if (typeString && _strings[*typeString].types < 0) {
         if (auto types = ArchiveTypes::parse(stringAt(*typeString))) {
             _strings[*typeString].types = static_cast<std::int32_t>(_types.size());
+            charge(costOfBlock + costOfGrowth * (qint64{sizeof(ArchiveTypes)} + types->memory()));
             _types.push_back(std::move(*types));
         }
     }

@@ -35,7 +35,8 @@ struct TypedStreamError {
 /// The first error stays: from then on every read answers an empty value, every list ends, and `failed` is
 /// true. So class code reads top to bottom and asks once. An object may be a reference to an earlier one,
 /// which is then read again from where it stands; class code does not notice. The total of what is read again
-/// is bounded by the archive's size, and so are memory and time whatever the bytes are.
+/// is bounded by the archive's size, and so is the memory that is taken (see `charge`), whatever the bytes
+/// are.
 class TypedStreamReader {
 public:
     /// Reads `bytes`, which have to outlive the reader. Objects that `readObject` keeps outlive both.
@@ -83,6 +84,21 @@ public:
     ArchiveObject readObject();
     /// Keeps everything up to the archive's end, as one object without a class.
     ArchiveObject readArchive();
+
+    // Memory. A few bytes may stand for much, and no archive takes more than a few times its size: each piece
+    // is counted when it is taken, and the one that goes too far refuses the archive.
+
+    /// Counts what class code makes of what it reads; texts and records were counted when they were read.
+    void charge(qint64 bytes)
+    {
+        _mayTake -= bytes;
+        if (_mayTake < 0)
+            failForMemory();
+    }
+    /// What a block of its own on the heap takes beside its bytes.
+    static constexpr qint64 costOfBlock = 32;
+    /// How many times its elements a list takes while it grows, or a table while it is sparse.
+    static constexpr qint64 costOfGrowth = 2;
 
     // Objects of well-known classes, and of those derived from them. Anything else, nil included, is left out
     // and answered with none; a layout that is not the class's own is an error.
@@ -157,6 +173,7 @@ private:
 
     // Bytes and integers
     void failAt(qsizetype offset, const QString& what);
+    void failForMemory();
     bool need(quint64 bytes);
     bool isNextByte(std::uint8_t byte) const;
     std::uint8_t takeByte();
@@ -225,6 +242,7 @@ private:
     std::vector<TableEntry> _objects;
     std::vector<ArchiveTypes> _types;
     qint64 _mayReadAgain = 0;             ///< bytes, for references
+    qint64 _mayTake = 0;                  ///< bytes of memory
     QHash<std::uint32_t, QString> _texts; ///< of string objects that were referred to, by number
 
     std::shared_ptr<ArchiveGraph> _graph;
@@ -283,6 +301,7 @@ TypedStreamReader::readRecords()
     for (qsizetype left = *count; left > 0 && !failed();) {
         const auto step = std::min<qsizetype>(left, 4096);
         const auto before = records.size();
+        charge(step * size);
         records.resize(before + static_cast<std::size_t>(step));
         readBlocks(reinterpret_cast<char*>(records.data() + before), size, step);
         left -= step;

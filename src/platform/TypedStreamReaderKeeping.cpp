@@ -47,8 +47,11 @@ std::uint32_t TypedStreamReader::keptIndex(FoundObject found)
     if (entry.entry() != Entry::keptObject) {
         _keptStarts.push_back(entry.place());
         entry = {_graph->addObject(), Entry::keptObject};
-        if (found.head == Head::reference)
+        charge(sizeof(ArchiveGraph::Object) + sizeof entry.place());
+        if (found.head == Head::reference) {
             _toKeep.push_back(found.number);
+            charge(costOfGrowth * qint64{sizeof found.number});
+        }
     }
     return entry.place();
 }
@@ -70,7 +73,7 @@ void TypedStreamReader::keepBody(std::uint32_t index, FoundObject found, std::si
     if (!mayNest(depth))
         return;
     goTo(found);
-    _graph->begin(index, takeObjectClass());
+    charge(_graph->begin(index, takeObjectClass()));
     _graph->end(index, keepGroups(depth + 1));
     takeByte(); // the end mark
 }
@@ -146,7 +149,9 @@ void TypedStreamReader::keepObject(std::size_t depth)
 
 void TypedStreamReader::keepValue(const ArchiveGraph::Value& value)
 {
-    _graph->add(value);
+    charge(_graph->add(value));
+    if (value.tag == Tag::text) // is counted decoded as well
+        charge(qint64{sizeof(QChar)} * value.bytes.size());
 }
 
 /// Reads a value that is no object.

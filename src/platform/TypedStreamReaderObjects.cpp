@@ -28,11 +28,12 @@ std::optional<QString> TypedStreamReader::readString()
         return std::nullopt;
     const auto text = QString::fromUtf8(readBytes());
     closeObject();
-    if (failed())
-        return std::nullopt;
-    if (referredTo)
+    charge(costOfBlock + qint64{sizeof(QChar)} * text.size());
+    if (referredTo && !failed()) {
+        charge(costOfGrowth * qint64{sizeof *referredTo + sizeof text});
         _texts.insert(*referredTo, text);
-    return text;
+    }
+    return failed() ? std::nullopt : std::optional(text);
 }
 
 std::optional<ArchiveNumber> TypedStreamReader::readNumber()

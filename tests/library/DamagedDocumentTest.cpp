@@ -158,6 +158,16 @@ TEST(DamagedDocument, ManyRunsOfManyToursTakeLittleMemory)
     EXPECT_EQ(document.toursArray().back()->tourDescription().runs().size(), std::size_t{runs});
 }
 
+TEST(DamagedDocument, WhatTakesMoreMemoryThanItMayIsRefused)
+{
+    const auto bytes = library(300'000, writeNames, writeNil);
+    MyDocument document;
+    const auto refusal = refusalInMemory(document, bytes);
+    EXPECT_EQ(refusal.substr(0, refusal.rfind(' ')),
+              "not a readable document: what it holds takes more than 56 MiB of memory at byte");
+    EXPECT_TRUE(document.toursArray().empty());
+}
+
 TEST(DamagedDocument, ManyToursWithNotesAndUnknownThingsAreOpened)
 {
     StyledText note(QString(500, u'x'));
