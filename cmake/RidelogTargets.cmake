@@ -12,8 +12,8 @@ target_compile_definitions(ridelog_flags INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_K
 if(RIDELOG_SANITIZE)
   target_compile_options(ridelog_flags INTERFACE
     -fsanitize=${RIDELOG_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer
-    # Among the sanitizers' own checks the compiler's guesses about bounds go wrong.
-    -Wno-array-bounds)
+    # Among the sanitizers' own checks the compiler's guesses about bounds and values go wrong.
+    -Wno-array-bounds -Wno-maybe-uninitialized)
   target_link_options(ridelog_flags INTERFACE -fsanitize=${RIDELOG_SANITIZE})
 endif()
 if(RIDELOG_FUZZ)
