@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/CalculatedValues.h"
+#include "model/ChartProviders.h"
 #include "model/SeriesEntry.h"
 #include "model/TourDictionary.h"
 #include "platform/CalendarDate.h"
@@ -24,9 +25,12 @@ class UndoManager;
 /// One recorded tour: what the device recorded, kept unchanged, and what the rider adds to it. The series and
 /// the first summary values are computed when the tour is made, the other summary values on first request.
 /// Tours are shared by whoever shows or edits them, all on the main thread.
-class OdoTour : public std::enable_shared_from_this<OdoTour> {
+class OdoTour : public std::enable_shared_from_this<OdoTour>,
+                public SimpleChart,
+                public NamedXYChart,
+                public NamedXYChartArray {
 public:
-    ~OdoTour();
+    ~OdoTour() override;
     OdoTour(const OdoTour&) = delete;
     OdoTour& operator=(const OdoTour&) = delete;
 
@@ -145,6 +149,27 @@ public:
     /// All summary values, those not asked for yet computed now.
     const CalculatedValues& calculatedValues() const;
 
+    // Its series for charts. The x name is one for all who show the tour, "distance" until it is set.
+
+    /// A field of an entry; 0 for a name that is no field and beyond the series.
+    float valueAt(unsigned index, QStringView forName) const;
+    float yValueFor(unsigned index) const override;
+    unsigned countValues() const override;
+    float maxYValue() const override;
+    void setNameForXValue(const QString& name) override;
+    void setNameForYValue(const QString& name) override;
+    float xValueAt(unsigned index) const override;
+    float yValueAt(unsigned index) const override;
+    float yValueAt(unsigned index, QStringView forName) const override;
+    unsigned countXValues() const override;
+    float maxX() const override;
+    float maxY() const override;
+    float maxYForName(QStringView name) const override;
+    float minYForName(QStringView name) const override;
+    std::optional<QStringList> namesForYValue() const override;
+    std::vector<float> xValues() const override;
+    std::vector<float> yValuesForName(QStringView name) const override;
+
 private:
     OdoTour();
     static std::shared_ptr<OdoTour> make();
@@ -171,6 +196,8 @@ private:
     bool _removed = false;
     bool _dataIsBigEndian = false;
     std::vector<SeriesEntry> _data;
+    QString _nameForXValue = QStringLiteral("distance");
+    QString _nameForYValue;
     mutable CalculatedValues _calculatedValues;
     mutable QDateTime _endDate;
 };

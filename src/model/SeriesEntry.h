@@ -26,19 +26,26 @@ struct SeriesEntry {
     std::optional<float> valueForKey(QStringView name) const;
 };
 
+/// Calls `visit(name, member)` for every field, `member` a pointer to the member.
+template <typename Visitor>
+void forEachSeriesField(Visitor&& visit)
+{
+    visit(u"time", &SeriesEntry::time);
+    visit(u"altitude", &SeriesEntry::altitude);
+    visit(u"distance", &SeriesEntry::distance);
+    visit(u"pulse", &SeriesEntry::pulse);
+    visit(u"power", &SeriesEntry::power);
+    visit(u"speed", &SeriesEntry::speed);
+    visit(u"climbingPercentage", &SeriesEntry::climbingPercentage);
+    visit(u"temperature", &SeriesEntry::temperature);
+    visit(u"cadence", &SeriesEntry::cadence);
+}
+
 /// Calls `visit(name, value)` for every field of the entry.
 template <typename Visitor>
 void forEachField(const SeriesEntry& entry, Visitor&& visit)
 {
-    visit(u"time", entry.time);
-    visit(u"altitude", entry.altitude);
-    visit(u"distance", entry.distance);
-    visit(u"pulse", entry.pulse);
-    visit(u"power", entry.power);
-    visit(u"speed", entry.speed);
-    visit(u"climbingPercentage", entry.climbingPercentage);
-    visit(u"temperature", entry.temperature);
-    visit(u"cadence", entry.cadence);
+    forEachSeriesField([&](QStringView name, auto member) { visit(name, entry.*member); });
 }
 
 inline std::optional<float> SeriesEntry::valueForKey(QStringView name) const
