@@ -1,13 +1,15 @@
 #pragma once
 
+#include "format/UnitsKeys.h"
+
 #include <QString>
 
 namespace ridelog {
 
 class Defaults;
 
-/// The keys of the user's choices, each written here and nowhere else, and the values that count while the
-/// user has made none.
+/// The keys of the user's choices, each written here and nowhere else but for the one that formatters read,
+/// and the values that count while the user has made none.
 namespace DefaultsKeys {
 
 // Main window
@@ -58,7 +60,7 @@ inline const QString recentDocuments =
     QStringLiteral("recentDocuments"); ///< list of texts: paths, newest first
 
 // Everywhere
-inline const QString useMiles = QStringLiteral("useMiles"); ///< bool: show miles, mph and feet
+using UnitsKeys::useMiles; ///< bool: show miles, mph and feet
 
 // Window frames. That of a tour window stands under the tour's description.
 inline const QString mainWindowFrame = QStringLiteral("MainWindow");
