@@ -1,0 +1,85 @@
+#include "chart/ChartArrayView.h"
+
+#include "chart/ChartDrawing.h"
+#include "chart/ChartLog.h"
+#include "model/ChartProviders.h"
+#include "platform/Defaults.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace ridelog {
+
+ChartArrayView::ChartArrayView(const Defaults& defaults, QWidget* parent)
+    : QWidget(parent), _defaults(defaults)
+{
+    // Every repaint begins with white paper, in a dark theme as well.
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAccessibleName(tr("Chart"));
+    _bindUsedPreferences();
+}
+
+ChartArrayView::~ChartArrayView() = default;
+
+void ChartArrayView::_bindUsedPreferences()
+{
+    qCDebug(lcChart, "[_bindUsedPreferences]");
+    _settings = ChartSettings::fromDefaults(_defaults);
+    connect(&_defaults, &Defaults::changed, this, [this](const QString& key) {
+        if (!ChartSettings::isKey(key))
+            return;
+        _settings = ChartSettings::fromDefaults(_defaults);
+        update();
+    });
+}
+
+void ChartArrayView::setUseTimeFormatForX(bool useTime)
+{
+    qCDebug(lcChart, "[setUseTimeFormatForX:%d]", useTime);
+    _useTimeFormatForX = useTime;
+}
+
+void ChartArrayView::showXIndicatorUsingValue(float x)
+{
+    _showXIndicator = true;
+    _indicatorValue = x;
+}
+
+std::optional<float> ChartArrayView::indicator() const
+{
+    return _showXIndicator ? std::optional(_indicatorValue) : std::nullopt;
+}
+
+ChartScaling::Chart ChartArrayView::chart(QSizeF size) const
+{
+    return {
+        .dataProvider = _dataProvider.get(),
+        .showNames = _showNames,
+        .width = static_cast<float>(size.width()),
+        .height = static_cast<float>(size.height()),
+        .useTimeFormatForX = _useTimeFormatForX,
+        .settings = _settings,
+        .formatterForXAxis = _mpFormatterForXAxis ? &*_mpFormatterForXAxis : nullptr,
+        .formatterForYAxis = _mpFormatterForYAxis ? &*_mpFormatterForYAxis : nullptr,
+        .measure = chartLabelSize,
+    };
+}
+
+double ChartArrayView::calcXValueFromPoint(double x) const
+{
+    return _scaling ? _scaling->calcXValueFromPoint(x) : 0;
+}
+
+void ChartArrayView::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    _scaling.emplace(ChartDrawing(painter, chart(size()), indicator()).draw());
+}
+
+void ChartArrayView::mousePressEvent(QMouseEvent* event)
+{
+    if (_mouseDelegate && event->button() == Qt::LeftButton)
+        _mouseDelegate->clickAtXValue(calcXValueFromPoint(event->position().x()));
+}
+
+} // namespace ridelog

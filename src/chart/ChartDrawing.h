@@ -1,0 +1,61 @@
+#pragma once
+
+#include "chart/ChartScaling.h"
+
+#include <QColor>
+#include <QFont>
+
+#include <optional>
+
+QT_FORWARD_DECLARE_CLASS(QPainter)
+
+namespace ridelog {
+
+/// The font of all labels of a chart, 12 view units high.
+QFont chartLabelFont();
+/// Its measure, without a device: the same for a screen, a picture and a printer.
+QSizeF chartLabelSize(const QString& label);
+
+QColor chartColor(const ColourComponents& colour);
+
+/// The colour on the way from `b` to `a`, `progress` of `steps` behind `b`.
+QColor colorByInterpolatingColor(const QColor& a, const QColor& withColor, int basedOnProgress,
+                                 int outOfPossibleSteps);
+
+/// Draws a chart: one pass. The painter's origin is the upper left corner of the chart, one view unit is one
+/// of its units; on a device with a grid of pixels lines are laid on the grid. Returns the scaling of the
+/// pass, for the series drawn last.
+///
+/// Values outside of the axes are cut off. A series longer than the picture is wide is drawn by the first,
+/// last, lowest and highest value of each column of pixels, which looks the same.
+class ChartDrawing {
+public:
+    /// `indicator` is the x value that is marked.
+    ChartDrawing(QPainter& painter, const ChartScaling::Chart& chart, std::optional<float> indicator);
+
+    const ChartScaling& draw();
+
+private:
+    void fillBackground();
+    void drawXAxis();
+    void drawYAxis(bool second);
+    void drawChartForName(const QString& name, const std::vector<float>& xValues);
+    void drawPulseRange();
+    void drawZone(float from, float to, const QColor& bottom, const QColor& top);
+    void drawGradient(const QRectF& rect, const QColor& startColor, const QColor& endColor);
+    void drawXIndicator();
+
+    void fillCrisp(const QRectF& rect, const QColor& color);
+    void drawHorizontal(float fromX, float toX, float y);
+    void drawVertical(float x, float fromY, float toY, float width = 1);
+    void drawLabel(const QString& label, float left, float bottom, float room);
+    float down(float y) const { return _scaling.chart().height - y; }
+    double pixelsPerUnit() const;
+
+    QPainter& _painter;
+    ChartScaling _scaling;
+    std::optional<float> _indicator;
+    QColor _seriesColor;
+};
+
+} // namespace ridelog
