@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 
+#include "cli/ChartCommand.h"
 #include "cli/EditCommand.h"
 #include "cli/ImportCommand.h"
 #include "cli/InspectCommand.h"
@@ -14,6 +15,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace ridelog {
@@ -38,6 +40,7 @@ const std::vector<std::unique_ptr<const Command>>& allCommands()
         list.push_back(std::make_unique<ListCommand>());
         list.push_back(std::make_unique<ShowCommand>());
         list.push_back(std::make_unique<EditCommand>());
+        list.push_back(std::make_unique<ChartCommand>());
         list.push_back(std::make_unique<PortsCommand>());
         list.push_back(std::make_unique<ReceiveCommand>());
         list.push_back(std::make_unique<MakeDumpCommand>());
@@ -45,6 +48,13 @@ const std::vector<std::unique_ptr<const Command>>& allCommands()
         return list;
     }();
     return commands;
+}
+
+const Command* commandNamed(const QString& name)
+{
+    const auto& commands = allCommands();
+    const auto found = std::ranges::find(commands, name, [](const auto& one) { return one->name(); });
+    return found == commands.end() ? nullptr : found->get();
 }
 
 ExitStatus wrongWords(const QString& message)

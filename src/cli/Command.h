@@ -50,8 +50,13 @@ public:
     /// What its usage line shows behind its name.
     virtual QString synopsis() const = 0;
     virtual QList<QCommandLineOption> options() const = 0;
+    /// Whether it needs fonts and the like, which take a moment to start.
+    virtual bool drawsPictures() const { return false; }
     virtual ExitStatus execute(const CommandContext& context) const = 0;
 };
+
+/// The command of this name; none if there is none.
+const Command* commandNamed(const QString& name);
 
 /// All commands, in the order in which the help lists them.
 const std::vector<std::unique_ptr<const Command>>& allCommands();

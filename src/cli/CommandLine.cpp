@@ -6,7 +6,6 @@
 #include <QCommandLineParser>
 #include <QMap>
 
-#include <algorithm>
 #include <optional>
 
 namespace ridelog {
@@ -163,10 +162,8 @@ ExitStatus runCommandLine(const QStringList& words)
     if (first == QStringLiteral("--version") || first == QStringLiteral("-v"))
         return print(QStringLiteral("%1 %2\n").arg(programName, QStringLiteral(RIDELOG_VERSION)));
 
-    const auto& commands = allCommands();
-    const auto command = std::ranges::find(commands, first, [](const auto& one) { return one->name(); });
-    if (command != commands.end())
-        return runCommand(**command, words);
+    if (const auto* command = commandNamed(first))
+        return runCommand(*command, words);
     const auto hint = QStringLiteral(" (see %1 --help)").arg(programName);
     if (first.isEmpty())
         return wrongWords(QStringLiteral("a command is missing") + hint);

@@ -1,11 +1,14 @@
+#include "cli/Command.h"
 #include "cli/CommandLine.h"
 #include "platform/Log.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QStringDecoder>
 
 #include <csignal>
 #include <fcntl.h>
+#include <memory>
 
 namespace {
 
@@ -27,6 +30,16 @@ bool isUtf8(const char* word)
     return !decoder.hasError();
 }
 
+/// Pictures need fonts, but no screen.
+std::unique_ptr<QCoreApplication> applicationFor(int& argc, char* argv[])
+{
+    const auto* command = argc > 1 ? ridelog::commandNamed(QString::fromUtf8(argv[1])) : nullptr;
+    if (!command || !command->drawsPictures())
+        return std::make_unique<QCoreApplication>(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -36,7 +49,7 @@ int main(int argc, char* argv[])
     std::signal(SIGXFSZ, SIG_IGN);
     // Before the toolkit starts, so that it is as quiet as the application.
     ridelog::setLogLevel(ridelog::LogLevel::none);
-    const QCoreApplication application(argc, argv);
+    const auto application = applicationFor(argc, argv);
     for (int i = 1; i < argc; ++i) {
         if (!isUtf8(argv[i])) {
             const auto status =
