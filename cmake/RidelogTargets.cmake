@@ -13,7 +13,7 @@ if(RIDELOG_SANITIZE)
   target_compile_options(ridelog_flags INTERFACE
     -fsanitize=${RIDELOG_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer
     # Among the sanitizers' own checks the compiler's guesses about bounds and values go wrong.
-    -Wno-array-bounds -Wno-maybe-uninitialized)
+    -Wno-array-bounds $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_link_options(ridelog_flags INTERFACE -fsanitize=${RIDELOG_SANITIZE})
 endif()
 if(RIDELOG_FUZZ)
