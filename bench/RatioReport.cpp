@@ -17,12 +17,19 @@ public:
     {
         for (const auto& run : runs) {
             if (run.run_type == Run::RT_Aggregate && run.aggregate_name == "median")
-                _medians[run.run_name.function_name] = run.GetAdjustedRealTime();
+                _medians[nameOf(run)] = run.GetAdjustedRealTime();
         }
         ConsoleReporter::ReportRuns(runs);
     }
 
 private:
+    /// Without what the benchmark library adds: NAME, or NAME/ARGUMENTS.
+    static std::string nameOf(const Run& run)
+    {
+        const auto& name = run.run_name;
+        return name.args.empty() ? name.function_name : name.function_name + '/' + name.args;
+    }
+
     std::map<std::string, double>& _medians;
 };
 
@@ -46,7 +53,7 @@ double RatioReport::ratioOf(const std::string& measured, const std::string& base
     if (found == _medians.end() || base == _medians.end())
         return std::numeric_limits<double>::infinity();
     const auto ratio = found->second / base->second;
-    std::printf("%s: %.2f x %s (at most %.1f)\n", measured.c_str(), ratio, baseline.c_str(), limit);
+    std::printf("%s: %.2f x %s (at most %.2f)\n", measured.c_str(), ratio, baseline.c_str(), limit);
     return ratio;
 }
 

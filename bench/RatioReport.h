@@ -19,7 +19,7 @@ public:
     double ratioOf(const std::string& measured, const std::string& baseline, double limit) const;
 
 private:
-    std::map<std::string, double> _medians; ///< real times by name
+    std::map<std::string, double> _medians; ///< real times by name, with the arguments after a slash
 };
 
 } // namespace ridelog

@@ -24,7 +24,7 @@ prepare() {
 
     local packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev tzdata)
     if [[ $1 == test ]]; then
-        packages+=(libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev)
+        packages+=(qt6-charts-dev libqt6opengl6-dev libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev)
     fi
 
     local missing
@@ -48,7 +48,7 @@ configure() {
   CMake 3.25, Ninja, a compiler for C++20 (g++ 12 or clang 14)
   Qt 6.4 (Core, Gui, Widgets, Svg) with its headers, time zone data
 and tested with
-  GoogleTest 1.12, Google Benchmark 1.7
+  GoogleTest 1.12, Google Benchmark 1.7, Qt Charts as what benchmarks compare with
   clang 14 with its sanitizer libraries, clang-format 14, clang-tidy 14
 or newer." >&2
     exit 1

@@ -28,6 +28,7 @@ void ChartArrayView::_bindUsedPreferences()
     connect(&_defaults, &Defaults::changed, this, [this](const QString& key) {
         if (!ChartSettings::isKey(key))
             return;
+        qCDebug(lcChart, "[observeValueForKeyPath:ofObject:change:context:]");
         _settings = ChartSettings::fromDefaults(_defaults);
         update();
     });
@@ -61,7 +62,7 @@ ChartScaling::Chart ChartArrayView::chart(QSizeF size) const
         .settings = _settings,
         .formatterForXAxis = _mpFormatterForXAxis ? &*_mpFormatterForXAxis : nullptr,
         .formatterForYAxis = _mpFormatterForYAxis ? &*_mpFormatterForYAxis : nullptr,
-        .measure = chartLabelSize,
+        .measure = chartLabelMeasure(),
     };
 }
 

@@ -1,15 +1,17 @@
 #include "chart/ChartDrawing.h"
 
 #include "chart/ChartLog.h"
-#include "chart/ColumnExtremes.h"
+#include "chart/ColumnExtents.h"
 #include "chart/SeriesNames.h"
 #include "model/ChartProviders.h"
 
 #include <QFontMetricsF>
-#include <QPaintDevice>
+#include <QPaintEngine>
 #include <QPainter>
+#include <QPolygonF>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -26,8 +28,45 @@ constexpr float leastGapBetweenLabels = 4;
 /// Lines that lead further out are not told apart from ones that end here, in view units.
 constexpr float farOutside = 20'000;
 
+/// A line with more of them is drawn by what can be seen of it in each column.
+constexpr double mostPointsInColumn = 2;
+
 /// Part of the pulse range that the zones outside of it are wide.
 constexpr float outerZone = 0.3F;
+
+/// Of the points where `scaling`, which does nothing else, takes them.
+ColumnExtents columnsOf(const QPolygonF& points, const QTransform& scaling, int left, int count)
+{
+    ColumnExtents columns(left, count);
+    for (const auto& point : points)
+        columns.add(static_cast<float>(point.x() * scaling.m11() + scaling.dx()),
+                    static_cast<float>(point.y() * scaling.m22() + scaling.dy()));
+    return columns;
+}
+
+/// A long line where there are no pixels: up and down between the ends of what it covers in each column of a
+/// quarter of a unit.
+QPolygonF outline(const QPolygonF& points, float width)
+{
+    constexpr double perUnit = 4;
+    const auto scaling = QTransform::fromScale(perUnit, 1);
+    const auto columns = columnsOf(points, scaling, 0, static_cast<int>(width * perUnit) + 1);
+    QPolygonF line;
+    double y = 0;
+    double x = 0.5;
+    for (const auto& extent : columns.extents()) {
+        if (!extent.isEmpty()) {
+            auto near = static_cast<double>(extent.least);
+            auto far = static_cast<double>(extent.most);
+            if (std::abs(far - y) < std::abs(near - y))
+                std::swap(near, far);
+            line << QPointF(x, near) << QPointF(x, far);
+            y = far;
+        }
+        ++x;
+    }
+    return scaling.inverted().map(line);
+}
 
 } // namespace
 
@@ -40,10 +79,11 @@ QFont chartLabelFont()
     return font;
 }
 
-QSizeF chartLabelSize(const QString& label)
+ChartScaling::LabelMeasure chartLabelMeasure()
 {
-    const QFontMetricsF metrics(chartLabelFont());
-    return {metrics.horizontalAdvance(label), metrics.height()};
+    return [metrics = QFontMetricsF(chartLabelFont())](const QString& label) {
+        return QSizeF(metrics.horizontalAdvance(label), metrics.height());
+    };
 }
 
 QColor chartColor(const ColourComponents& colour)
@@ -64,7 +104,11 @@ QColor colorByInterpolatingColor(const QColor& a, const QColor& withColor, int b
 
 ChartDrawing::ChartDrawing(QPainter& painter, const ChartScaling::Chart& chart,
                            std::optional<float> indicator)
-    : _painter(painter), _scaling(chart), _indicator(indicator), _seriesColor(labelColor)
+    : _painter(painter),
+      _scaling(chart),
+      _indicator(indicator),
+      _seriesColor(labelColor),
+      _labelDescent(QFontMetricsF(chartLabelFont()).descent())
 {
 }
 
@@ -89,10 +133,10 @@ const ChartScaling& ChartDrawing::draw()
             const auto& name = chart.showNames[series];
             _scaling.calcYAxisForName(name);
             if (series == 0) {
-                drawYAxis(false);
+                drawYAxisForName(name, false);
                 drawXAxis();
             } else if (_scaling.isOn2ndAxis(series)) {
-                drawYAxis(true);
+                drawYAxisForName(name, true);
             }
             drawChartForName(name, xValues);
         }
@@ -115,33 +159,33 @@ void ChartDrawing::drawXAxis()
     const auto axis = _scaling.xAxisPosition();
     float lastRight = -leastGapBetweenLabels;
     for (const auto& [position, label] : _scaling.xTics()) {
+        drawVertical(position, axis - ticLength, axis);
         const auto size = _scaling.chart().measure(label);
         const auto width = static_cast<float>(size.width());
         // Centred under its tic, but inside the picture, and left out where its neighbour needs the room.
         const auto left =
             std::clamp(position - width / 2, 0.0F, std::max(_scaling.chart().width - width, 0.0F));
         if (left >= lastRight + leastGapBetweenLabels || lastRight < 0) {
-            drawLabel(label, left, axis - static_cast<float>(size.height()) - labelGap, width);
+            drawLabel(label, size, left, axis - static_cast<float>(size.height()) - labelGap, width);
             lastRight = left + width;
         }
     }
     drawHorizontal(_scaling.plotLeft(), _scaling.plotRight(), axis);
-    for (const auto& tic : _scaling.xTics())
-        drawVertical(tic.position, axis - ticLength, axis);
     drawXIndicator();
 }
 
-void ChartDrawing::drawYAxis(bool second)
+void ChartDrawing::drawYAxisForName(const QString& name, bool second)
 {
-    qCDebug(lcChart, "[drawYAxisForName] %d", second);
     const auto& chart = _scaling.chart();
+    qCDebug(lcChart, "[drawYAxisForName] %s %d", qUtf8Printable(name), second);
+    qCDebug(lcChart, "%d", chart.settings.draw2ndAxis);
     const auto axis = second ? _scaling.secondAxisPosition() : _scaling.leftAxisPosition();
     const auto end = second ? axis + _scaling.secondChartOffsetX() - labelGap : axis - labelGap;
     const auto room = second ? end - axis - ticLength : end;
     for (const auto& [position, label] : _scaling.yTics(second)) {
         const auto size = chart.measure(label);
         const auto width = std::min(static_cast<float>(size.width()), room);
-        drawLabel(label, end - width, position - static_cast<float>(size.height()) / 2, width);
+        drawLabel(label, size, end - width, position - static_cast<float>(size.height()) / 2, width);
         drawHorizontal(second ? axis : axis - ticLength, second ? axis + ticLength : axis, position);
     }
     drawVertical(axis, _scaling.plotBottom(), _scaling.plotTop());
@@ -161,23 +205,85 @@ void ChartDrawing::drawChartForName(const QString& name, const std::vector<float
         _seriesColor = chartColor(settings.pulseColor);
     if (xValues.empty())
         return;
-    const auto yValues = chart.dataProvider->yValuesForName(name);
-    const auto columns = static_cast<float>(pixelsPerUnit());
-    ColumnExtremes line(columns);
-    const auto inReach = [](float value) { return std::clamp(value, -farOutside, farOutside); };
-    for (std::size_t i = 0; i < std::min(xValues.size(), yValues.size()); ++i)
-        line.add(inReach(_scaling.calcRealXValueFrom(xValues[i])),
-                 inReach(down(_scaling.calcRealYValueFrom(yValues[i]))));
-
     _painter.save();
     constexpr float beyondEnd = 1;
     constexpr float beyondTop = 5;
     _painter.setClipRect(QRectF(QPointF(_scaling.plotLeft(), down(_scaling.plotTop() + beyondTop)),
                                 QPointF(_scaling.plotRight() + beyondEnd, down(_scaling.plotBottom()))));
+    const auto points = viewPoints(xValues, chart.dataProvider->yValuesForName(name));
+    const bool isLong = static_cast<double>(points.size()) >
+                        mostPointsInColumn * pixelsPerUnit() * static_cast<double>(chart.width);
+    if (!isLong)
+        drawPolyline(points);
+    else if (hasPixels())
+        drawColumns(points);
+    else
+        drawPolyline(outline(points, chart.width));
+    _painter.restore();
+}
+
+/// Where the values stand in the picture, y downwards. One that is no place is left out.
+QPolygonF ChartDrawing::viewPoints(const std::vector<float>& xValues, const std::vector<float>& yValues) const
+{
+    QPolygonF points;
+    const auto count = std::min(xValues.size(), yValues.size());
+    points.reserve(static_cast<qsizetype>(count));
+    const auto inReach = [](float value) { return std::clamp(value, -farOutside, farOutside); };
+    for (std::size_t i = 0; i < count; ++i) {
+        const auto x = inReach(_scaling.calcRealXValueFrom(xValues[i]));
+        const auto y = inReach(down(_scaling.calcRealYValueFrom(yValues[i])));
+        if (!std::isnan(x) && !std::isnan(y))
+            points.append({x, y});
+    }
+    return points;
+}
+
+void ChartDrawing::drawPolyline(const QPolygonF& points)
+{
     _painter.setRenderHint(QPainter::Antialiasing);
     _painter.setPen(QPen(_seriesColor, 1.0));
-    _painter.drawPolyline(line.points());
-    _painter.restore();
+    _painter.drawPolyline(points);
+}
+
+/// A long line where there are pixels: a bar in each column, as high as a line covers of it that goes up or
+/// down as far. Rows at its ends fade as far as it fills them, in a few steps, so that all of a step are
+/// drawn at once.
+void ChartDrawing::drawColumns(const QPolygonF& points)
+{
+    const auto toDevice = _painter.deviceTransform();
+    const auto area =
+        toDevice.mapRect(QRectF(0, 0, static_cast<double>(_scaling.chart().width), 1)).toAlignedRect();
+    const auto columns = columnsOf(points, toDevice, area.left(), area.width());
+    const auto lineWidth = static_cast<float>(pixelsPerUnit());
+    const auto width = std::max(static_cast<int>(std::lround(lineWidth)), 1);
+
+    constexpr int full = 4;
+    std::array<QList<QRect>, full + 1> rows; ///< by how far they are filled
+    auto left = area.left() - (width - 1) / 2;
+    for (const auto& extent : columns.extents()) {
+        if (!extent.isEmpty()) {
+            const auto way = extent.most - extent.least;
+            const auto edge = lineWidth * (std::hypot(1.0F, way) - way) / 2;
+            const auto top = extent.least - edge;
+            const auto bottom = extent.most + edge;
+            const auto first = static_cast<int>(std::ceil(top));
+            const auto end = static_cast<int>(std::floor(bottom));
+            const auto step = [](float part) { return static_cast<std::size_t>(part * full + 0.5F); };
+            rows[step(static_cast<float>(first) - top)].append({left, first - 1, width, 1});
+            if (first < end)
+                rows[full].append({left, first, width, end - first});
+            rows[step(bottom - static_cast<float>(end))].append({left, end, width, 1});
+        }
+        ++left;
+    }
+    _painter.setWorldTransform(toDevice.inverted(), true);
+    _painter.setPen(Qt::NoPen);
+    for (std::size_t step = 1; step <= full; ++step) {
+        auto color = _seriesColor;
+        color.setAlphaF(color.alphaF() * static_cast<float>(step) / full);
+        _painter.setBrush(color);
+        _painter.drawRects(rows[step]);
+    }
 }
 
 void ChartDrawing::drawPulseRange()
@@ -241,35 +347,39 @@ void ChartDrawing::drawVertical(float x, float fromY, float toY, float width)
 }
 
 /// `bottom` is the lower edge of the label's box; a label wider than its room is made narrower.
-void ChartDrawing::drawLabel(const QString& label, float left, float bottom, float room)
+void ChartDrawing::drawLabel(const QString& label, QSizeF size, float left, float bottom, float room)
 {
-    const QFontMetricsF metrics(chartLabelFont());
-    const auto width = metrics.horizontalAdvance(label);
     _painter.save();
     _painter.setPen(labelColor);
-    _painter.translate(left, down(bottom) - metrics.descent());
-    if (width > static_cast<double>(room) && room > 0)
-        _painter.scale(static_cast<double>(room) / width, 1);
+    _painter.translate(left, down(bottom) - _labelDescent);
+    if (size.width() > static_cast<double>(room) && room > 0)
+        _painter.scale(static_cast<double>(room) / size.width(), 1);
     _painter.drawText(QPointF(), label);
     _painter.restore();
 }
 
 double ChartDrawing::pixelsPerUnit() const
 {
-    const auto scale = std::abs(_painter.worldTransform().m11()) * _painter.device()->devicePixelRatioF();
+    const auto scale = std::abs(_painter.deviceTransform().m11());
     return scale > 0 ? scale : 1.0;
+}
+
+bool ChartDrawing::hasPixels() const
+{
+    return _painter.paintEngine()->type() == QPaintEngine::Raster &&
+           _painter.deviceTransform().type() <= QTransform::TxScale;
 }
 
 /// With edges on the grid of pixels, so that a line is neither blurred nor lost.
 void ChartDrawing::fillCrisp(const QRectF& rect, const QColor& color)
 {
-    const auto scale = pixelsPerUnit();
-    const auto onGrid = [scale](double value) { return std::round(value * scale) / scale; };
-    const auto left = onGrid(rect.left());
-    const auto top = onGrid(rect.top());
-    const auto right = std::max(onGrid(rect.right()), left + 1 / scale);
-    const auto bottom = std::max(onGrid(rect.bottom()), top + 1 / scale);
-    _painter.fillRect(QRectF(QPointF(left, top), QPointF(right, bottom)), color);
+    const auto toDevice = _painter.deviceTransform();
+    const auto onDevice = toDevice.mapRect(rect);
+    const auto left = std::round(onDevice.left());
+    const auto top = std::round(onDevice.top());
+    const auto right = std::max(std::round(onDevice.right()), left + 1);
+    const auto bottom = std::max(std::round(onDevice.bottom()), top + 1);
+    _painter.fillRect(toDevice.inverted().mapRect(QRectF(QPointF(left, top), QPointF(right, bottom))), color);
 }
 
 } // namespace ridelog

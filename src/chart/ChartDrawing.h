@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QPolygonF>
 
 #include <optional>
 
@@ -14,7 +15,7 @@ namespace ridelog {
 /// The font of all labels of a chart, 12 view units high.
 QFont chartLabelFont();
 /// Its measure, without a device: the same for a screen, a picture and a printer.
-QSizeF chartLabelSize(const QString& label);
+ChartScaling::LabelMeasure chartLabelMeasure();
 
 QColor chartColor(const ColourComponents& colour);
 
@@ -26,8 +27,8 @@ QColor colorByInterpolatingColor(const QColor& a, const QColor& withColor, int b
 /// of its units; on a device with a grid of pixels lines are laid on the grid. Returns the scaling of the
 /// pass, for the series drawn last.
 ///
-/// Values outside of the axes are cut off. A series longer than the picture is wide is drawn by the first,
-/// last, lowest and highest value of each column of pixels, which looks the same.
+/// Values outside of the axes are cut off. A series much longer than the picture is wide is drawn by how far
+/// up and down it runs in each column of pixels, which looks the same.
 class ChartDrawing {
 public:
     /// `indicator` is the x value that is marked.
@@ -38,8 +39,11 @@ public:
 private:
     void fillBackground();
     void drawXAxis();
-    void drawYAxis(bool second);
+    void drawYAxisForName(const QString& name, bool second);
     void drawChartForName(const QString& name, const std::vector<float>& xValues);
+    QPolygonF viewPoints(const std::vector<float>& xValues, const std::vector<float>& yValues) const;
+    void drawPolyline(const QPolygonF& points);
+    void drawColumns(const QPolygonF& points);
     void drawPulseRange();
     void drawZone(float from, float to, const QColor& bottom, const QColor& top);
     void drawGradient(const QRectF& rect, const QColor& startColor, const QColor& endColor);
@@ -48,14 +52,16 @@ private:
     void fillCrisp(const QRectF& rect, const QColor& color);
     void drawHorizontal(float fromX, float toX, float y);
     void drawVertical(float x, float fromY, float toY, float width = 1);
-    void drawLabel(const QString& label, float left, float bottom, float room);
+    void drawLabel(const QString& label, QSizeF size, float left, float bottom, float room);
     float down(float y) const { return _scaling.chart().height - y; }
     double pixelsPerUnit() const;
+    bool hasPixels() const;
 
     QPainter& _painter;
     ChartScaling _scaling;
     std::optional<float> _indicator;
     QColor _seriesColor;
+    double _labelDescent;
 };
 
 } // namespace ridelog

@@ -85,6 +85,12 @@ float factor(float units, float extent)
     return units > 0 && extent != 0 ? finite(units / extent) : 0.0F;
 }
 
+QString formatTimeString(std::int32_t seconds)
+{
+    qCDebug(lcChart, "[formatTimeString]");
+    return TimeFormatter::text(seconds);
+}
+
 QString label(const MultipFormatter* formatter, const QVariant& value)
 {
     return formatter ? formatter->stringForObjectValue(value) : value.toString();
@@ -176,7 +182,7 @@ std::vector<ChartScaling::Tic> ChartScaling::xTics() const
     for (std::int32_t tic = 0; tic <= _xTicCount; ++tic) {
         tics.push_back({calcRealXValueFrom(static_cast<float>(tic) * _majorXTicDistance),
                         _chart.useTimeFormatForX
-                            ? TimeFormatter::text(value)
+                            ? formatTimeString(value)
                             : label(_chart.formatterForXAxis, static_cast<float>(value))});
         value = truncated(static_cast<float>(value) + _majorXTicDistance);
     }

@@ -195,7 +195,7 @@ ExitStatus ChartCommand::execute(const CommandContext& context) const
                               .settings = settingsFor(request, defaults),
                               .formatterForXAxis = &formatterForX,
                               .formatterForYAxis = &formatterForY,
-                              .measure = chartLabelSize};
+                              .measure = chartLabelMeasure()};
     if (!wantsLayout)
         return drawPicture(chart, path);
     // No font's measures: the layout is the same on every machine.

@@ -12,6 +12,7 @@
 #include <QImage>
 #include <QPainter>
 
+#include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -44,7 +45,7 @@ protected:
                                       .settings = ChartSettings::fromDefaults(defaults),
                                       .formatterForXAxis = &x,
                                       .formatterForYAxis = &y,
-                                      .measure = chartLabelSize},
+                                      .measure = chartLabelMeasure()},
                                      indicator)
                             .draw());
     }
@@ -172,6 +173,29 @@ TEST_F(Drawing, ALongSeriesLooksLikeItsColumns)
     EXPECT_GT(count(Qt::blue), 20'000);
 }
 
+TEST_F(Drawing, ALongSeriesLooksLikeAShortOneOfTheSameShape)
+{
+    const auto hills = [](int count) {
+        std::vector<float> x;
+        std::vector<float> y;
+        for (int i = 0; i <= count; ++i) {
+            x.push_back(40.0F * static_cast<float>(i) / static_cast<float>(count));
+            y.push_back(605 + 90 * std::sin(x.back()) + (x.back() > 30 ? 100.0F : 0.0F));
+        }
+        return ChartData(x, {{altitude, y}});
+    };
+    for (const double ratio : {1.0, 1.25, 2.0}) {
+        draw(hills(700), {altitude}, ratio);
+        const auto byPoints = picture;
+        draw(hills(70'000), {altitude}, ratio);
+        int unlike = 0;
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                unlike += std::abs(qRed(picture.pixel(x, y)) - qRed(byPoints.pixel(x, y))) > 200;
+        EXPECT_LT(unlike, count(Qt::blue) / 8) << ratio;
+    }
+}
+
 TEST_F(Drawing, WhateverTheNumbersAreItIsDrawn)
 {
     constexpr auto nan = std::numeric_limits<float>::quiet_NaN();
@@ -209,7 +233,7 @@ TEST_F(Drawing, PicturesAreOfTheTypeThatTheirNameEndsWith)
                                     .settings = ChartSettings::fromDefaults(defaults),
                                     .formatterForXAxis = &formatter,
                                     .formatterForYAxis = &formatter,
-                                    .measure = chartLabelSize};
+                                    .measure = chartLabelMeasure()};
     const std::pair<const char*, QByteArray> types[]{
         {"a.jpg", "\xff\xd8\xff"}, {"a.JPEG", "\xff\xd8\xff"}, {"a.png", "\x89PNG"}, {"a.pdf", "%PDF-"}};
     for (const auto& [name, begin] : types) {
