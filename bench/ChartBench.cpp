@@ -4,7 +4,7 @@
 
 #include "bench/RatioReport.h"
 #include "chart/ChartDrawing.h"
-#include "chart/SeriesNames.h"
+#include "model/SeriesNames.h"
 #include "format/UnitFormatters.h"
 #include "library/DefaultsKeys.h"
 #include "platform/Defaults.h"

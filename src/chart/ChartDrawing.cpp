@@ -2,8 +2,8 @@
 
 #include "chart/ChartLog.h"
 #include "chart/ColumnExtents.h"
-#include "chart/SeriesNames.h"
 #include "model/ChartProviders.h"
+#include "model/SeriesNames.h"
 
 #include <QFontMetricsF>
 #include <QPaintEngine>
@@ -107,7 +107,7 @@ ChartDrawing::ChartDrawing(QPainter& painter, const ChartScaling::Chart& chart,
     : _painter(painter),
       _scaling(chart),
       _indicator(indicator),
-      _seriesColor(labelColor),
+      _seriesColor(axisColor),
       _labelDescent(QFontMetricsF(chartLabelFont()).descent())
 {
 }

@@ -19,13 +19,14 @@ ChartScaling::LabelMeasure chartLabelMeasure();
 
 QColor chartColor(const ColourComponents& colour);
 
-/// The colour on the way from `b` to `a`, `progress` of `steps` behind `b`.
+/// The colour on the way from `withColor` to `a`, `basedOnProgress` of `outOfPossibleSteps` behind
+/// `withColor`.
 QColor colorByInterpolatingColor(const QColor& a, const QColor& withColor, int basedOnProgress,
                                  int outOfPossibleSteps);
 
 /// Draws a chart: one pass. The painter's origin is the upper left corner of the chart, one view unit is one
-/// of its units; on a device with a grid of pixels lines are laid on the grid. Returns the scaling of the
-/// pass, for the series drawn last.
+/// of its units; axes and tics are laid on the grid of the device's units (of a screen, its pixels). Returns
+/// the scaling of the pass, for the series drawn last.
 ///
 /// Values outside of the axes are cut off. A series much longer than the picture is wide is drawn by how far
 /// up and down it runs in each column of pixels, which looks the same.

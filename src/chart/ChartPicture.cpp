@@ -14,6 +14,7 @@ namespace {
 
 /// Of 100: details of lines and labels stay clear.
 constexpr int jpegQuality = 90;
+constexpr int usualQuality = -1;
 /// Points of a PDF page in an inch: one for a view unit.
 constexpr int pointsPerInch = 72;
 
@@ -23,7 +24,7 @@ QSize sizeOf(const ChartScaling::Chart& chart)
 }
 
 QString drawPoints(QBuffer& out, const ChartScaling::Chart& chart, std::optional<float> indicator,
-                   const char* format)
+                   const char* format, int quality)
 {
     QImage image(sizeOf(chart), QImage::Format_RGB32);
     if (image.isNull())
@@ -32,8 +33,7 @@ QString drawPoints(QBuffer& out, const ChartScaling::Chart& chart, std::optional
         QPainter painter(&image);
         ChartDrawing(painter, chart, indicator).draw();
     }
-    return image.save(&out, format, jpegQuality) ? QString()
-                                                 : QStringLiteral("the picture cannot be encoded");
+    return image.save(&out, format, quality) ? QString() : QStringLiteral("the picture cannot be encoded");
 }
 
 QString drawSvg(QBuffer& out, const ChartScaling::Chart& chart, std::optional<float> indicator)
@@ -74,9 +74,9 @@ ChartPicture chartPicture(const ChartScaling::Chart& chart, std::optional<float>
     const auto ending = QFileInfo(fileName).suffix().toLower();
     QString error;
     if (ending == u"jpg" || ending == u"jpeg")
-        error = drawPoints(out, chart, indicator, "JPEG");
+        error = drawPoints(out, chart, indicator, "JPEG", jpegQuality);
     else if (ending == u"png")
-        error = drawPoints(out, chart, indicator, "PNG");
+        error = drawPoints(out, chart, indicator, "PNG", usualQuality);
     else if (ending == u"svg")
         error = drawSvg(out, chart, indicator);
     else if (ending == u"pdf")

@@ -3,7 +3,6 @@
 #include "chart/ChartScaling.h"
 
 #include <QByteArray>
-#include <QSize>
 #include <QString>
 
 #include <optional>

@@ -1,10 +1,11 @@
 #include "chart/ChartScaling.h"
 
 #include "chart/ChartLog.h"
-#include "chart/SeriesNames.h"
 #include "format/MultipFormatter.h"
 #include "format/TimeFormatter.h"
 #include "model/ChartProviders.h"
+#include "model/SeriesNames.h"
+#include "platform/NumberPattern.h"
 
 #include <algorithm>
 #include <array>
@@ -75,7 +76,7 @@ float roundedBottom(float bottom)
 /// A top that is not 0 goes up to the next multiple of ten above it.
 float roundedTop(float top)
 {
-    const auto tens = std::trunc(top / 10.0F) * 10.0F;
+    const auto tens = std::trunc(top / 10.0F) * 10.0F + 0.0F; // -0 becomes 0
     return tens > top || top == 0 ? tens : tens + 10.0F;
 }
 
@@ -114,16 +115,17 @@ void ChartScaling::calcValues()
     qCDebug(lcChart, "[calcValues] %s", qUtf8Printable(names.join(u", ")));
     _draw2ndAxis = false;
     // Measured on the altitude, whatever is shown, and before it is rounded.
-    const auto highest = _chart.settings.useManualRange
-                             ? _chart.settings.maxRange
-                             : truncated(maxY(_chart.dataProvider, SeriesNames::altitude));
+    const auto highest =
+        truncated(_chart.settings.useManualRange ? _chart.settings.maxRange
+                                                 : maxY(_chart.dataProvider, SeriesNames::altitude));
     const auto width = _chart.measure(label(_chart.formatterForYAxis, highest)).width();
     _chartOffsetX = static_cast<float>(width) + 10.0F;
     _2ndChartOffsetX = _chartOffsetX * 0.5F;
     if (names.indexOf(SeriesNames::speed) < 1)
         return;
     const auto fastest = maxY(_chart.dataProvider, SeriesNames::speed);
-    const auto text = QString::number(static_cast<double>(fastest), 'f', 0);
+    static const NumberPattern wholeNumber(QStringLiteral("0"));
+    const auto text = wholeNumber.text(static_cast<double>(fastest), QLocale::c());
     qCDebug(lcChart, "maxValText: %s %f", qUtf8Printable(text), static_cast<double>(fastest));
     _2ndChartOffsetX += static_cast<float>(_chart.measure(text).width());
     _draw2ndAxis = _chart.settings.draw2ndAxis;
@@ -152,8 +154,8 @@ void ChartScaling::calcYAxisForName(const QString& name)
     _chartOffsetY = verticalMargin;
     const bool isAltitude = name == SeriesNames::altitude;
     if (isAltitude && _chart.settings.useManualRange) {
-        _minYAxisValue = static_cast<float>(_chart.settings.minRange);
-        _maxYAxisValue = static_cast<float>(_chart.settings.maxRange);
+        _minYAxisValue = finite(_chart.settings.minRange);
+        _maxYAxisValue = finite(_chart.settings.maxRange);
     } else {
         _minYAxisValue = isAltitude ? roundedBottom(minY(_chart.dataProvider, name)) : 0.0F;
         _maxYAxisValue = roundedTop(maxY(_chart.dataProvider, name));

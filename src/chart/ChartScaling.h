@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace ridelog {
@@ -22,8 +23,8 @@ class NamedXYChartArray;
 /// drawing pass calls `calcValues`, `calcXAxis`, and `calcYAxisForName` for each series before it is drawn;
 /// what they work out holds until the next pass.
 ///
-/// An axis without extent (no data, all values zero) has no tics, and all values stand at its start. Values
-/// that are no numbers are taken as 0.
+/// An axis without extent (no data, all values zero) has no tics, and all values stand at its start. An end
+/// of a range that is no number is taken as 0.
 class ChartScaling {
 public:
     /// Size of a label in view units.

@@ -32,6 +32,11 @@ void read(const Defaults& defaults, const QString& key, int& value)
     value = defaults.integerForKey(key);
 }
 
+void read(const Defaults& defaults, const QString& key, float& value)
+{
+    value = defaults.floatForKey(key);
+}
+
 void read(const Defaults& defaults, const QString& key, bool& value)
 {
     value = defaults.boolForKey(key);

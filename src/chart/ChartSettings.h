@@ -16,8 +16,8 @@ struct ChartSettings {
     bool pulseUseGradient = false; ///< the zones outside the range fade, else they are solid
     bool draw2ndAxis = false;      ///< speed may have an axis of its own
     bool useManualRange = false;   ///< the altitude axis goes from minRange to maxRange
-    int minRange = 0;              ///< metres
-    int maxRange = 0;
+    float minRange = 0;            ///< metres
+    float maxRange = 0;
     ColourComponents altitudeColor;
     ColourComponents pulseColor;
     ColourComponents speedColor;

@@ -16,8 +16,9 @@ void RLCalendarView::drawRect(QPainter& painter, const QRectF& rect)
     // From the top, parts of the height
     float used = 0;
     for (const float part : {0.15F, 0.1F, 0.75F}) {
+        // Within the rectangle: a line one wide is drawn to the right of and below its coordinates.
         painter.drawRect(QRectF(rect.left(), static_cast<double>(top + used * height),
-                                static_cast<double>(width), static_cast<double>(part * height)));
+                                static_cast<double>(width - 1), static_cast<double>(part * height - 1)));
         used += part;
     }
 }

@@ -2,7 +2,6 @@
 
 #include "chart/ChartDrawing.h"
 #include "chart/ChartPicture.h"
-#include "chart/SeriesNames.h"
 #include "cli/ChartLayoutJson.h"
 #include "cli/DumpTarget.h"
 #include "cli/TourList.h"
@@ -10,6 +9,7 @@
 #include "cli/TourSource.h"
 #include "format/UnitFormatters.h"
 #include "library/DefaultsKeys.h"
+#include "model/SeriesNames.h"
 #include "platform/Defaults.h"
 #include "platform/JsonWriter.h"
 #include "platform/WholeFile.h"
@@ -18,6 +18,8 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QRegularExpression>
+
+#include <cmath>
 
 namespace ridelog {
 namespace {
@@ -43,26 +45,28 @@ struct Request {
     QSize size;
     QString x;
     QStringList names;
-    std::optional<std::pair<int, int>> manualRange; ///< metres
+    std::optional<std::pair<float, float>> manualRange; ///< metres
 };
 
 std::optional<QSize> sizeOf(const QString& text)
 {
-    static const QRegularExpression form(QStringLiteral("^(\\d{1,5})x(\\d{1,5})$"));
+    static const QRegularExpression form(QStringLiteral("^(\\d{1,5})x(\\d{1,5})\\z"));
     const auto match = form.match(text);
     const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
     const auto fits = [](int length) { return length >= smallestSize && length <= largestSize; };
     return fits(size.width()) && fits(size.height()) ? std::optional(size) : std::nullopt;
 }
 
-std::optional<std::pair<int, int>> rangeOf(const QString& text)
+std::optional<std::pair<float, float>> rangeOf(const QString& text)
 {
     const auto ends = text.split(u',');
     bool isLow = false;
     bool isHigh = false;
-    const std::pair range(ends.value(0).toInt(&isLow), ends.value(1).toInt(&isHigh));
-    return isLow && isHigh && ends.size() == 2 && range.first < range.second ? std::optional(range)
-                                                                             : std::nullopt;
+    const std::pair range(ends.value(0).toFloat(&isLow), ends.value(1).toFloat(&isHigh));
+    return isLow && isHigh && ends.size() == 2 && std::isfinite(range.second - range.first) &&
+                   range.first < range.second
+               ? std::optional(range)
+               : std::nullopt;
 }
 
 /// Reads the options, or answers what is wrong with them.
@@ -96,6 +100,12 @@ ChartSettings settingsFor(const Request& request, const Defaults& defaults)
         std::tie(settings.minRange, settings.maxRange) = *request.manualRange;
     }
     return settings;
+}
+
+/// The picture would take the place of recordings.
+bool holdsTours(const QString& path, const QDateTime& now)
+{
+    return QFileInfo(path).isFile() && TourSource::read(path, now).refusal.isEmpty();
 }
 
 ExitStatus drawPicture(const ChartScaling::Chart& chart, const QString& path)
@@ -171,6 +181,9 @@ ExitStatus ChartCommand::execute(const CommandContext& context) const
     if (!name)
         return wrongWords(*this, TourName::fault());
 
+    if (!wantsLayout && holdsTours(path, context.now))
+        return refuse(path, QStringLiteral("holds tours, which a picture would replace"));
+
     const auto file = context.arguments.constFirst();
     const auto source = TourSource::read(file, context.now);
     if (!source.refusal.isEmpty())
@@ -181,7 +194,7 @@ ExitStatus ChartCommand::execute(const CommandContext& context) const
         return refuse(file, found.refusal);
     found.tour->setNameForXValue(request.x);
 
-    // Nobody's own choices: a picture is the same whoever draws it.
+    // Nobody's own choices, so that the same words draw the same picture.
     Defaults defaults{QString()};
     DefaultsKeys::registerApplicationDefaults(defaults);
     defaults.registerDefaults({{DefaultsKeys::useMiles, context.miles}});
@@ -198,7 +211,8 @@ ExitStatus ChartCommand::execute(const CommandContext& context) const
                               .measure = chartLabelMeasure()};
     if (!wantsLayout)
         return drawPicture(chart, path);
-    // No font's measures: the layout is the same on every machine.
+    // No font's measures and nobody's digits: the layout is the same on every machine.
+    QLocale::setDefault(QLocale::c());
     chart.measure = [](const QString& label) {
         return QSizeF(7.0 * static_cast<double>(label.size()), 14.0);
     };

@@ -46,7 +46,7 @@ void writeChartLayout(JsonWriter& json, const ChartScaling::Chart& chart)
     writeTics(json, u"xTics", u"x", scaling.xTics());
     json.key(u"series");
     json.beginArray();
-    for (qsizetype series = 0; scaling.hasPlot() && series < chart.showNames.size(); ++series) {
+    for (qsizetype series = 0; series < chart.showNames.size(); ++series) {
         scaling.calcYAxisForName(chart.showNames[series]);
         json.beginObject();
         json.entry(u"name", chart.showNames[series]);

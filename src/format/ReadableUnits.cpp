@@ -6,7 +6,7 @@ namespace ridelog {
 
 double ReadableUnits::distance(float kilometres) const
 {
-    return _miles ? kilometres * UnitFactors::milesPerKilometre : static_cast<double>(kilometres);
+    return static_cast<double>(_miles ? kilometres * UnitFactors::milesPerKilometre : kilometres);
 }
 
 double ReadableUnits::speed(float kilometresPerHour) const
@@ -16,7 +16,7 @@ double ReadableUnits::speed(float kilometresPerHour) const
 
 double ReadableUnits::altitude(int metres) const
 {
-    return _miles ? metres * UnitFactors::feetPerMetre : metres;
+    return _miles ? static_cast<double>(static_cast<float>(metres) * UnitFactors::feetPerMetre) : metres;
 }
 
 QString ReadableUnits::distanceUnit() const

@@ -4,7 +4,7 @@
 /// read. Only texts are converted, never values.
 namespace ridelog::UnitFactors {
 
-inline constexpr double milesPerKilometre = 0.6213712;
-inline constexpr double feetPerMetre = 3.2808399;
+inline constexpr float milesPerKilometre = 0.6213712F;
+inline constexpr float feetPerMetre = 3.2808399F;
 
 } // namespace ridelog::UnitFactors

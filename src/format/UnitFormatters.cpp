@@ -7,8 +7,8 @@
 namespace ridelog::UnitFormatters {
 namespace {
 
-constexpr auto toMiles = static_cast<float>(UnitFactors::milesPerKilometre);
-constexpr auto toFeet = static_cast<float>(UnitFactors::feetPerMetre);
+constexpr auto toMiles = UnitFactors::milesPerKilometre;
+constexpr auto toFeet = UnitFactors::feetPerMetre;
 
 struct Units {
     const char* pattern;

@@ -38,8 +38,8 @@ inline const QString pulseDrawPulseRange = QStringLiteral("pulse_drawPulseRange"
 inline const QString pulseUseGradient = QStringLiteral("pulse_useGradient");       ///< bool
 inline const QString speed2ndAxis = QStringLiteral("speed_2ndAxis");               ///< bool
 inline const QString useManualRange = QStringLiteral("useManualRange");            ///< bool: altitude axis
-inline const QString minRange = QStringLiteral("minRange");                        ///< integer: metres
-inline const QString maxRange = QStringLiteral("maxRange");                        ///< integer: metres
+inline const QString minRange = QStringLiteral("minRange");                        ///< float: metres
+inline const QString maxRange = QStringLiteral("maxRange");                        ///< float: metres
 
 // Saved pictures of a chart
 inline const QString pictureWidth = QStringLiteral("pictureWidth");   ///< float: pixels

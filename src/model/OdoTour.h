@@ -196,7 +196,7 @@ private:
     bool _removed = false;
     bool _dataIsBigEndian = false;
     std::vector<SeriesEntry> _data;
-    QString _nameForXValue = QStringLiteral("distance");
+    QString _nameForXValue = SeriesNames::distance;
     QString _nameForYValue;
     mutable CalculatedValues _calculatedValues;
     mutable QDateTime _endDate;

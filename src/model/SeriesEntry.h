@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/SeriesNames.h"
+
 #include <QStringView>
 
 #include <cstdint>
@@ -30,12 +32,12 @@ struct SeriesEntry {
 template <typename Visitor>
 void forEachSeriesField(Visitor&& visit)
 {
-    visit(u"time", &SeriesEntry::time);
-    visit(u"altitude", &SeriesEntry::altitude);
-    visit(u"distance", &SeriesEntry::distance);
-    visit(u"pulse", &SeriesEntry::pulse);
+    visit(SeriesNames::time, &SeriesEntry::time);
+    visit(SeriesNames::altitude, &SeriesEntry::altitude);
+    visit(SeriesNames::distance, &SeriesEntry::distance);
+    visit(SeriesNames::pulse, &SeriesEntry::pulse);
     visit(u"power", &SeriesEntry::power);
-    visit(u"speed", &SeriesEntry::speed);
+    visit(SeriesNames::speed, &SeriesEntry::speed);
     visit(u"climbingPercentage", &SeriesEntry::climbingPercentage);
     visit(u"temperature", &SeriesEntry::temperature);
     visit(u"cadence", &SeriesEntry::cadence);

@@ -1,9 +1,9 @@
 #include "chart/ChartArrayView.h"
 
 #include "chart/RLCalendarView.h"
-#include "chart/SeriesNames.h"
 #include "format/UnitFormatters.h"
 #include "library/DefaultsKeys.h"
+#include "model/SeriesNames.h"
 #include "platform/Defaults.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/Tours.h"
@@ -114,6 +114,7 @@ TEST_F(View, WithoutDataItIsAWhitePaperWithAxes)
     empty.setShowNames({altitude});
     const auto image = empty.grab().toImage();
     EXPECT_EQ(image.pixelColor(150, 75), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(150, 150 - 22), QColor(Qt::red));
     EXPECT_EQ(empty.calcXValueFromPoint(150), 0);
 }
 
@@ -125,10 +126,12 @@ TEST(RLCalendarView, HasThreeBands)
     RLCalendarView::drawRect(painter, QRectF(0, 0, 100, 200));
     painter.end();
     EXPECT_EQ(image.pixelColor(50, 15), QColor(Qt::white));
-    for (const int y : {0, 30, 50})
+    for (const int y : {0, 29, 30, 49, 50})
         EXPECT_EQ(image.pixelColor(50, y), QColor(Qt::blue)) << y;
     EXPECT_EQ(image.pixelColor(50, 120), QColor(Qt::white));
-    EXPECT_EQ(image.pixelColor(0, 120), QColor(Qt::blue));
+    for (const int x : {0, 99})
+        EXPECT_EQ(image.pixelColor(x, 120), QColor(Qt::blue)) << x;
+    EXPECT_EQ(image.pixelColor(50, 199), QColor(Qt::blue));
 }
 
 } // namespace

@@ -1,9 +1,9 @@
 #include "chart/ChartDrawing.h"
 
 #include "chart/ChartPicture.h"
-#include "chart/SeriesNames.h"
 #include "format/UnitFormatters.h"
 #include "library/DefaultsKeys.h"
+#include "model/SeriesNames.h"
 #include "platform/Defaults.h"
 #include "tests/support/ChartData.h"
 #include "tests/support/TemporaryFolder.h"
@@ -31,8 +31,8 @@ protected:
 
     void draw(const NamedXYChartArray& data, const QStringList& names, double pixelRatio = 1)
     {
-        const auto x = UnitFormatters::chartXAxis(defaults);
-        const auto y = UnitFormatters::chartYAxis(defaults, names.value(0));
+        xFormatter = UnitFormatters::chartXAxis(defaults);
+        yFormatter = UnitFormatters::chartYAxis(defaults, names.value(0));
         picture = QImage(QSize(width, height) * pixelRatio, QImage::Format_RGB32);
         picture.setDevicePixelRatio(pixelRatio);
         picture.fill(Qt::black);
@@ -43,8 +43,8 @@ protected:
                                       .width = width,
                                       .height = height,
                                       .settings = ChartSettings::fromDefaults(defaults),
-                                      .formatterForXAxis = &x,
-                                      .formatterForYAxis = &y,
+                                      .formatterForXAxis = &*xFormatter,
+                                      .formatterForYAxis = &*yFormatter,
                                       .measure = chartLabelMeasure()},
                                      indicator)
                             .draw());
@@ -59,6 +59,35 @@ protected:
     QColor atValue(float x, float y) const
     {
         return at(drawing->calcRealXValueFrom(x), drawing->calcRealYValueFrom(y));
+    }
+    /// Whether it is the colour, mixed with white by half at the most.
+    static bool isMostly(const QColor& pixel, const QColor& color)
+    {
+        const auto isNear = [](int a, int b) { return std::abs(a - b) < 130; };
+        return isNear(pixel.red(), color.red()) && isNear(pixel.green(), color.green()) &&
+               isNear(pixel.blue(), color.blue());
+    }
+    /// The pixels of a part of the picture, in view coordinates, in which something of this colour is.
+    int count(const QColor& color, QRectF part) const
+    {
+        int found = 0;
+        for (auto y = part.top(); y < part.bottom(); ++y)
+            for (auto x = part.left(); x < part.right(); ++x)
+                found += isMostly(at(static_cast<float>(x), static_cast<float>(y)), color);
+        return found;
+    }
+    /// From where to where each label below the x axis reaches.
+    std::vector<std::pair<int, int>> xLabels() const
+    {
+        std::vector<std::pair<int, int>> labels;
+        for (int x = 0; x < picture.width(); ++x) {
+            if (count(Qt::black, QRectF(x, 0, 1, 15)) == 0)
+                continue;
+            if (labels.empty() || x > labels.back().second + 3)
+                labels.emplace_back(x, x);
+            labels.back().second = x;
+        }
+        return labels;
     }
     /// How many pixels have something of this colour, which is a clear one, on white.
     int count(const QColor& color) const
@@ -76,6 +105,8 @@ protected:
 
     Defaults defaults;
     std::optional<float> indicator;
+    std::optional<MultipFormatter> xFormatter;
+    std::optional<MultipFormatter> yFormatter;
     QImage picture;
     std::optional<ChartScaling> drawing;
 };
@@ -83,6 +114,9 @@ protected:
 /// A flat road of 20 km at 505 m, 30 km/h and a pulse of 150.
 const ChartData flat({0, 10, 20},
                      {{altitude, {505, 505, 505}}, {speed, {30, 30, 30}}, {pulse, {150, 150, 150}}});
+
+/// The same with a pulse of 210.
+const ChartData fast({0, 20}, {{pulse, {210, 210}}});
 
 TEST_F(Drawing, AxesAreRedLinesOneUnitWideAndSeriesHaveTheirColours)
 {
@@ -97,6 +131,57 @@ TEST_F(Drawing, AxesAreRedLinesOneUnitWideAndSeriesHaveTheirColours)
         EXPECT_GT(count(Qt::blue), width * ratio / 2);
         EXPECT_GT(count(Qt::green), width * ratio / 2);
     }
+}
+
+TEST_F(Drawing, TicsStandOutsideOfThePlotAndLabelsBesideThem)
+{
+    draw(flat, {altitude, speed});
+    const auto axis = drawing->xAxisPosition();
+    const auto tics = drawing->xTics();
+    const auto labels = xLabels();
+    ASSERT_EQ(labels.size(), tics.size());
+    for (std::size_t tic = 0; tic < tics.size(); ++tic) {
+        const auto x = tics[tic].position;
+        EXPECT_EQ(at(x, axis - 3), QColor(Qt::red)) << tic;
+        EXPECT_EQ(at(x + 4, axis - 3), QColor(Qt::white)) << tic;
+        const auto centre = static_cast<float>(labels[tic].first + labels[tic].second + 1) / 2;
+        EXPECT_NEAR(centre, x, 2) << tic;
+    }
+    // The series scaled last is speed.
+    const auto left = drawing->leftAxisPosition();
+    const auto right = drawing->secondAxisPosition();
+    const auto marginsLeft = QRectF(0, 0, static_cast<double>(left) - 6, 14);
+    const auto marginRight =
+        QRectF(static_cast<double>(right) + 6, 0, width - 7 - static_cast<double>(right), 14);
+    for (const auto& tic : drawing->yTics(true)) {
+        const auto y = tic.position;
+        const auto redAt = [&](float x) {
+            return count(Qt::red, QRectF(static_cast<double>(x), static_cast<double>(y) - 1, 1, 3));
+        };
+        EXPECT_EQ(redAt(left - 3), 1);
+        EXPECT_EQ(redAt(left + 3), 0);
+        EXPECT_EQ(redAt(right + 3), 1);
+        EXPECT_EQ(redAt(right - 3), 0);
+        const auto bottom = static_cast<double>(y) - 7;
+        EXPECT_GT(count(Qt::black, marginsLeft.translated(0, bottom)), 5) << y;
+        EXPECT_GT(count(Qt::black, marginRight.translated(0, bottom)), 3) << y;
+    }
+    EXPECT_EQ(count(Qt::black, QRectF(static_cast<double>(left), 30, static_cast<double>(right - left), 160)),
+              0)
+        << "no label in the plot";
+}
+
+TEST_F(Drawing, LabelsNeitherCollideNorLeaveThePicture)
+{
+    // Tics 20 units apart, whose labels are wider; the last one stands near the edge.
+    const ChartData far({0, 20'000}, {{altitude, {5, 8}}});
+    draw(far, {altitude});
+    const auto labels = xLabels();
+    ASSERT_GT(labels.size(), 3U);
+    EXPECT_LT(labels.size(), drawing->xTics().size());
+    EXPECT_LT(labels.back().second, width);
+    for (const auto& [first, last] : labels)
+        EXPECT_LT(last - first, 36) << "five digits at the most";
 }
 
 TEST_F(Drawing, SpeedHasASecondAxisOnlyIfTheRiderWantsOne)
@@ -115,7 +200,22 @@ TEST_F(Drawing, ZonesLieBeneathEverythingAndFade)
     EXPECT_NE(atValue(5, 120), in);
     EXPECT_NE(atValue(5, 120), QColor(Qt::white));
     EXPECT_EQ(atValue(5, 100), QColor(Qt::white));
-    EXPECT_GT(count(Qt::gray), width / 2) << "the line lies on them";
+    // Below and above it fades from one colour to the other, over 0.3 of the range and a beat.
+    const auto& settings = drawing->chart().settings;
+    const auto isAlmost = [](const QColor& color, const QColor& wanted) {
+        return std::abs(color.red() - wanted.red()) + std::abs(color.green() - wanted.green()) +
+                   std::abs(color.blue() - wanted.blue()) <
+               45;
+    };
+    EXPECT_TRUE(isAlmost(atValue(5, 118.8F), chartColor(settings.pulseBelowColor)));
+    EXPECT_TRUE(isAlmost(atValue(5, 129.5F), in));
+    EXPECT_EQ(atValue(5, 117), QColor(Qt::white));
+    draw(fast, {pulse});
+    EXPECT_TRUE(isAlmost(atValue(5, 170.5F), in));
+    EXPECT_TRUE(isAlmost(atValue(5, 179.5F), chartColor(settings.pulseAboveColor)));
+    EXPECT_EQ(atValue(5, 183.5F), QColor(Qt::white));
+    draw(flat, {pulse});
+    EXPECT_TRUE(isMostly(atValue(5, 150), Qt::gray)) << "the line lies on them";
 
     defaults.setValue(DefaultsKeys::pulseUseGradient, false);
     draw(flat, {pulse});
@@ -138,13 +238,12 @@ TEST_F(Drawing, SeriesAreCutOffAtTheEndOfTheRoadAndALittleAboveTheTop)
     // Far above the top, and a tenth of a tic beyond the end
     const ChartData steep({0, 10, 20, 20.05F}, {{altitude, {460, 480, 3000, 460}}});
     draw(steep, {altitude});
-    EXPECT_GT(count(Qt::magenta), 20);
-    for (int x = 0; x < width; ++x) {
-        EXPECT_NE(picture.pixelColor(x, 5), QColor(Qt::magenta));
-        EXPECT_NE(picture.pixelColor(x, height - 5), QColor(Qt::magenta));
-    }
-    for (int y = 0; y < height; ++y)
-        EXPECT_NE(picture.pixelColor(static_cast<int>(drawing->plotRight()) + 4, y), QColor(Qt::magenta));
+    const auto right = static_cast<double>(drawing->plotRight());
+    EXPECT_GT(count(Qt::magenta, QRectF(0, 0, width, height)), 20);
+    EXPECT_GT(count(Qt::magenta, QRectF(0, height - 24.5, width, 4)), 3) << "above the top";
+    EXPECT_EQ(count(Qt::magenta, QRectF(0, height - 19.5, width, 19)), 0);
+    EXPECT_EQ(count(Qt::magenta, QRectF(right + 1.5, 0, width - right - 2, height)), 0);
+    EXPECT_EQ(count(Qt::magenta, QRectF(40, 18, width - 40, 6)), 0);
 }
 
 TEST_F(Drawing, TheIndicatorIsALineOfTwoUnits)
@@ -154,7 +253,26 @@ TEST_F(Drawing, TheIndicatorIsALineOfTwoUnits)
     const auto x = drawing->calcRealXValueFrom(10);
     EXPECT_EQ(at(x, 60), QColor(Qt::red));
     EXPECT_EQ(at(x - 0.5F, 60), QColor(Qt::red));
-    EXPECT_EQ(at(x + 3, 60), QColor(Qt::white));
+    EXPECT_EQ(at(x + 1.6F, 60), QColor(Qt::white));
+    EXPECT_EQ(at(x - 1.6F, 60), QColor(Qt::white));
+}
+
+TEST_F(Drawing, EachSeriesHasItsColourAndAnUnknownOneTheLast)
+{
+    defaults.setValue(DefaultsKeys::colorAltitude, ColourComponents{1, 0, 1, 1});
+    defaults.setValue(DefaultsKeys::colorSpeed, ColourComponents{0, 1, 1, 1});
+    defaults.setValue(DefaultsKeys::colorPulse, ColourComponents{0, 0, 0.5, 1});
+    defaults.setValue(DefaultsKeys::pulseDrawPulseRange, false);
+    const auto cadence = QStringLiteral("cadence");
+    const ChartData rides(
+        {0, 20}, {{altitude, {505, 505}}, {speed, {30, 30}}, {pulse, {150, 150}}, {cadence, {95, 95}}});
+    const auto plot = QRectF(60, 30, 280, 140);
+    draw(rides, {altitude, speed, pulse, cadence});
+    EXPECT_GE(count(Qt::magenta, plot), 280);
+    EXPECT_GE(count(Qt::cyan, plot), 280);
+    EXPECT_GE(count(Qt::darkBlue, plot), 2 * 280);
+    draw(rides, {cadence});
+    EXPECT_GE(count(Qt::red, plot), 280) << "that of the axes";
 }
 
 TEST_F(Drawing, ALongSeriesLooksLikeItsColumns)

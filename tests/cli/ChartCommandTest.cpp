@@ -49,6 +49,29 @@ TEST_F(ChartCommand, TheLayoutIsTheSameEverywhere)
     EXPECT_EQ(series[0][u"tics"].toArray().first()[u"label"].toString(), QStringLiteral("100"));
     EXPECT_FALSE(series[1].toObject().contains(u"tics")) << "no axis of its own";
     EXPECT_TRUE(series[2].toObject().contains(u"tics"));
+
+    // Labels are for people: in miles, miles per hour and feet at the same places
+    const auto imperial =
+        chart(QStringLiteral("--miles --layout-json --y altitude,pulse,speed --size 700x300 "
+                             "--manual-range 100,900"))
+            .json();
+    const auto label = [](const QJsonValue& tics, int index) {
+        return tics.toArray().at(index)[u"label"].toString();
+    };
+    const auto toMiles = [](double value) { return QString::number(value * 0.6213712, 'f', 1); };
+    EXPECT_EQ(imperial[u"chartOffsetX"].toDouble(), 38) << "room for 2953";
+    EXPECT_EQ(label(imperial[u"series"][0][u"tics"], 0), QStringLiteral("328"));
+    const auto road = label(layout[u"xTics"], 3).toDouble();
+    EXPECT_EQ(label(imperial[u"xTics"], 3), toMiles(road));
+    const auto pace = label(series[2][u"tics"], 4).toDouble();
+    EXPECT_EQ(label(imperial[u"series"][2][u"tics"], 4), toMiles(pace));
+}
+
+TEST_F(ChartCommand, NeverTakesThePlaceOfTours)
+{
+    const auto recording = write("ride.png", RideGenerator{}.dump());
+    EXPECT_EQ(chart(QStringLiteral("-o ") + recording).status, 1);
+    EXPECT_EQ(read("ride.png"), RideGenerator{}.dump());
 }
 
 TEST_F(ChartCommand, SaysWhatIsWrong)

@@ -4,7 +4,7 @@
 
 namespace ridelog::SeriesNames {
 
-// The series that charts treat by their names, and the x quantities.
+// The fields of a series that something treats by its name: those that charts show, and the x quantities.
 
 inline const QString altitude = QStringLiteral("altitude");
 inline const QString speed = QStringLiteral("speed");
