@@ -34,6 +34,29 @@ constexpr double mostPointsInColumn = 2;
 /// Part of the pulse range that the zones outside of it are wide.
 constexpr float outerZone = 0.3F;
 
+struct XLabel {
+    QString text;
+    QSizeF size;
+    float left;
+
+    float right() const { return left + static_cast<float>(size.width()); }
+};
+
+/// Each how manieth label can be drawn so that there is room between them.
+std::size_t labelStep(const std::vector<XLabel>& labels)
+{
+    std::size_t step = 1;
+    for (std::size_t i = 0; i + step < labels.size();) {
+        if (labels[i + step].left >= labels[i].right() + leastGapBetweenLabels) {
+            i += step;
+        } else {
+            ++step;
+            i = 0;
+        }
+    }
+    return step;
+}
+
 /// Of the points where `scaling`, which does nothing else, takes them.
 ColumnExtents columnsOf(const QPolygonF& points, const QTransform& scaling, int left, int count)
 {
@@ -157,20 +180,22 @@ void ChartDrawing::drawXAxis()
 {
     qCDebug(lcChart, "[drawXAxis]");
     const auto axis = _scaling.xAxisPosition();
-    float lastRight = -leastGapBetweenLabels;
-    for (const auto& [position, label] : _scaling.xTics()) {
-        drawVertical(position, axis - ticLength, axis);
-        const auto size = _scaling.chart().measure(label);
-        const auto width = static_cast<float>(size.width());
-        // Centred under its tic, but inside the picture, and left out where its neighbour needs the room.
-        const auto left =
-            std::clamp(position - width / 2, 0.0F, std::max(_scaling.chart().width - width, 0.0F));
-        if (left >= lastRight + leastGapBetweenLabels || lastRight < 0) {
-            drawLabel(label, size, left, axis - static_cast<float>(size.height()) - labelGap, width);
-            lastRight = left + width;
-        }
-    }
     drawHorizontal(_scaling.plotLeft(), _scaling.plotRight(), axis);
+    std::vector<XLabel> labels;
+    for (const auto& [position, text] : _scaling.xTics()) {
+        drawVertical(position, axis - ticLength, axis);
+        const auto size = _scaling.chart().measure(text);
+        const auto width = static_cast<float>(size.width());
+        // Centred under its tic, but inside the picture
+        const auto rightmost = std::max(_scaling.chart().width - width, 0.0F);
+        labels.push_back({text, size, std::clamp(position - width / 2, 0.0F, rightmost)});
+    }
+    const auto step = labelStep(labels);
+    for (std::size_t i = 0; i < labels.size(); i += step) {
+        const auto& [text, size, left] = labels[i];
+        drawLabel(text, size, left, axis - static_cast<float>(size.height()) - labelGap,
+                  static_cast<float>(size.width()));
+    }
     drawXIndicator();
 }
 
