@@ -2,6 +2,7 @@
 
 #include "chart/ChartLog.h"
 #include "chart/ColumnExtents.h"
+#include "chart/LineClip.h"
 #include "model/ChartProviders.h"
 #include "model/SeriesNames.h"
 
@@ -9,6 +10,7 @@
 #include <QPaintEngine>
 #include <QPainter>
 #include <QPolygonF>
+#include <QRawFont>
 
 #include <algorithm>
 #include <array>
@@ -24,9 +26,6 @@ const QColor labelColor = Qt::black;
 constexpr float ticLength = 5;
 constexpr float labelGap = 6; ///< between an axis and its labels
 constexpr float leastGapBetweenLabels = 4;
-
-/// Lines that lead further out are not told apart from ones that end here, in view units.
-constexpr float farOutside = 20'000;
 
 /// A line with more of them is drawn by what can be seen of it in each column.
 constexpr double mostPointsInColumn = 2;
@@ -57,24 +56,27 @@ std::size_t labelStep(const std::vector<XLabel>& labels)
     return step;
 }
 
-/// Of the points where `scaling`, which does nothing else, takes them.
-ColumnExtents columnsOf(const QPolygonF& points, const QTransform& scaling, int left, int count)
+/// Of the lines where `scaling`, which does nothing else, takes them.
+ColumnExtents columnsOf(const QList<QPolygonF>& lines, const QTransform& scaling, int left, int count)
 {
     ColumnExtents columns(left, count);
-    for (const auto& point : points)
-        columns.add(static_cast<float>(point.x() * scaling.m11() + scaling.dx()),
-                    static_cast<float>(point.y() * scaling.m22() + scaling.dy()));
+    for (const auto& line : lines) {
+        columns.beginLine();
+        for (const auto& point : line)
+            columns.add(static_cast<float>(point.x() * scaling.m11() + scaling.dx()),
+                        static_cast<float>(point.y() * scaling.m22() + scaling.dy()));
+    }
     return columns;
 }
 
-/// A long line where there are no pixels: up and down between the ends of what it covers in each column of a
+/// Long lines where there are no pixels: up and down between the ends of what they cover in each column of a
 /// quarter of a unit.
-QPolygonF outline(const QPolygonF& points, float width)
+QList<QPolygonF> outlines(const QList<QPolygonF>& lines, float width)
 {
     constexpr double perUnit = 4;
     const auto scaling = QTransform::fromScale(perUnit, 1);
-    const auto columns = columnsOf(points, scaling, 0, static_cast<int>(width * perUnit) + 1);
-    QPolygonF line;
+    const auto columns = columnsOf(lines, scaling, 0, static_cast<int>(width * perUnit) + 1);
+    QList<QPolygonF> outlines{QPolygonF()};
     double y = 0;
     double x = 0.5;
     for (const auto& extent : columns.extents()) {
@@ -83,12 +85,14 @@ QPolygonF outline(const QPolygonF& points, float width)
             auto far = static_cast<double>(extent.most);
             if (std::abs(far - y) < std::abs(near - y))
                 std::swap(near, far);
-            line << QPointF(x, near) << QPointF(x, far);
+            outlines.last() << QPointF(x / perUnit, near) << QPointF(x / perUnit, far);
             y = far;
+        } else if (!outlines.last().isEmpty()) {
+            outlines.append(QPolygonF());
         }
         ++x;
     }
-    return scaling.inverted().map(line);
+    return outlines;
 }
 
 } // namespace
@@ -100,6 +104,11 @@ QFont chartLabelFont()
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(12);
     return font;
+}
+
+bool hasChartLabelFont()
+{
+    return QRawFont::fromFont(chartLabelFont()).supportsCharacter(u'0');
 }
 
 ChartScaling::LabelMeasure chartLabelMeasure()
@@ -230,20 +239,20 @@ void ChartDrawing::drawChartForName(const QString& name, const std::vector<float
         _seriesColor = chartColor(settings.pulseColor);
     if (xValues.empty())
         return;
-    _painter.save();
     constexpr float beyondEnd = 1;
     constexpr float beyondTop = 5;
-    _painter.setClipRect(QRectF(QPointF(_scaling.plotLeft(), down(_scaling.plotTop() + beyondTop)),
-                                QPointF(_scaling.plotRight() + beyondEnd, down(_scaling.plotBottom()))));
+    const QRectF reach(QPointF(_scaling.plotLeft(), down(_scaling.plotTop() + beyondTop)),
+                       QPointF(_scaling.plotRight() + beyondEnd, down(_scaling.plotBottom())));
     const auto points = viewPoints(xValues, chart.dataProvider->yValuesForName(name));
+    const auto lines = clippedLine(points, reach);
     const bool isLong = static_cast<double>(points.size()) >
                         mostPointsInColumn * pixelsPerUnit() * static_cast<double>(chart.width);
-    if (!isLong)
-        drawPolyline(points);
-    else if (hasPixels())
-        drawColumns(points);
+    _painter.save();
+    _painter.setClipRect(reach, Qt::IntersectClip);
+    if (isLong && hasPixels())
+        drawColumns(lines);
     else
-        drawPolyline(outline(points, chart.width));
+        drawLines(isLong ? outlines(lines, chart.width) : lines);
     _painter.restore();
 }
 
@@ -253,32 +262,47 @@ QPolygonF ChartDrawing::viewPoints(const std::vector<float>& xValues, const std:
     QPolygonF points;
     const auto count = std::min(xValues.size(), yValues.size());
     points.reserve(static_cast<qsizetype>(count));
-    const auto inReach = [](float value) { return std::clamp(value, -farOutside, farOutside); };
     for (std::size_t i = 0; i < count; ++i) {
-        const auto x = inReach(_scaling.calcRealXValueFrom(xValues[i]));
-        const auto y = inReach(down(_scaling.calcRealYValueFrom(yValues[i])));
-        if (!std::isnan(x) && !std::isnan(y))
+        const auto x = _scaling.calcRealXValueFrom(xValues[i]);
+        const auto y = down(_scaling.calcRealYValueFrom(yValues[i]));
+        if (std::isfinite(x) && std::isfinite(y))
             points.append({x, y});
     }
     return points;
 }
 
-void ChartDrawing::drawPolyline(const QPolygonF& points)
+void ChartDrawing::drawLines(const QList<QPolygonF>& lines)
 {
     _painter.setRenderHint(QPainter::Antialiasing);
     _painter.setPen(QPen(_seriesColor, 1.0));
-    _painter.drawPolyline(points);
+    for (const auto& line : lines) {
+        // A line of more than a pixel's width is filled as one area, which takes the longer the more often it
+        // crosses itself.
+        if (hasPixels() && pixelsPerUnit() > 1)
+            drawStretches(line);
+        else
+            _painter.drawPolyline(line);
+    }
+}
+
+void ChartDrawing::drawStretches(const QPolygonF& line)
+{
+    QList<QLineF> stretches;
+    stretches.reserve(line.size());
+    for (qsizetype i = 0; i + 1 < line.size(); ++i)
+        stretches.append({line[i], line[i + 1]});
+    _painter.drawLines(stretches);
 }
 
 /// A long line where there are pixels: a bar in each column, as high as a line covers of it that goes up or
 /// down as far. Rows at its ends fade as far as it fills them, in a few steps, so that all of a step are
 /// drawn at once.
-void ChartDrawing::drawColumns(const QPolygonF& points)
+void ChartDrawing::drawColumns(const QList<QPolygonF>& lines)
 {
     const auto toDevice = _painter.deviceTransform();
     const auto area =
         toDevice.mapRect(QRectF(0, 0, static_cast<double>(_scaling.chart().width), 1)).toAlignedRect();
-    const auto columns = columnsOf(points, toDevice, area.left(), area.width());
+    const auto columns = columnsOf(lines, toDevice, area.left(), area.width());
     const auto lineWidth = static_cast<float>(pixelsPerUnit());
     const auto width = std::max(static_cast<int>(std::lround(lineWidth)), 1);
 
@@ -336,18 +360,30 @@ void ChartDrawing::drawZone(float from, float to, const QColor& bottom, const QC
                  top);
 }
 
-/// Line by line from the bottom; the rectangle's y goes upwards.
+/// From the bottom; the rectangle's y goes upwards. Line by line where there are pixels, each with a colour.
 void ChartDrawing::drawGradient(const QRectF& rect, const QColor& startColor, const QColor& endColor)
 {
     const auto steps = static_cast<int>(std::clamp(rect.height(), 0.0, 1e9));
     qCDebug(lcChart, "height:%d", steps);
-    // A range far beyond the picture has any number of lines.
     const auto height = static_cast<double>(_scaling.chart().height);
-    const auto first = static_cast<int>(std::clamp(-rect.y() - 1, 0.0, 1e9));
-    const auto last = static_cast<int>(std::min<double>(steps, std::max(height - rect.y() + 2, 0.0)));
-    for (int line = first; line < last; ++line) {
-        const auto color = colorByInterpolatingColor(endColor, startColor, line, steps);
-        fillCrisp(QRectF(rect.x(), height - rect.y() - line - 0.5, rect.width(), 1), color);
+    // As far as the lines reach, which are one high and stand half below and half above their place
+    const QRectF area(rect.x(), height - rect.y() - steps + 0.5, rect.width(), steps);
+    if (startColor == endColor) {
+        if (steps > 0)
+            fillCrisp(area.intersected(QRectF(area.x(), 0, area.width(), height)), startColor);
+    } else if (!hasPixels()) {
+        QLinearGradient gradient(area.bottomLeft(), area.topLeft());
+        gradient.setColorAt(0, startColor);
+        gradient.setColorAt(1, endColor);
+        _painter.fillRect(area.intersected(QRectF(area.x(), 0, area.width(), height)), gradient);
+    } else {
+        // A range far beyond the picture has any number of lines.
+        const auto first = static_cast<int>(std::clamp(-rect.y() - 1, 0.0, 1e9));
+        const auto last = static_cast<int>(std::min<double>(steps, std::max(height - rect.y() + 2, 0.0)));
+        for (int line = first; line < last; ++line) {
+            const auto color = colorByInterpolatingColor(endColor, startColor, line, steps);
+            fillCrisp(QRectF(rect.x(), area.bottom() - line - 1, rect.width(), 1), color);
+        }
     }
 }
 
@@ -395,16 +431,15 @@ bool ChartDrawing::hasPixels() const
            _painter.deviceTransform().type() <= QTransform::TxScale;
 }
 
-/// With edges on the grid of pixels, so that a line is neither blurred nor lost.
+/// On the grid of pixels, so that a line is neither blurred nor lost, and each as wide as the others.
 void ChartDrawing::fillCrisp(const QRectF& rect, const QColor& color)
 {
     const auto toDevice = _painter.deviceTransform();
     const auto onDevice = toDevice.mapRect(rect);
-    const auto left = std::round(onDevice.left());
-    const auto top = std::round(onDevice.top());
-    const auto right = std::max(std::round(onDevice.right()), left + 1);
-    const auto bottom = std::max(std::round(onDevice.bottom()), top + 1);
-    _painter.fillRect(toDevice.inverted().mapRect(QRectF(QPointF(left, top), QPointF(right, bottom))), color);
+    const auto length = [](double from, double to) { return std::max(std::round(to - from), 1.0); };
+    const QRectF onGrid(std::round(onDevice.left()), std::round(onDevice.top()),
+                        length(onDevice.left(), onDevice.right()), length(onDevice.top(), onDevice.bottom()));
+    _painter.fillRect(toDevice.inverted().mapRect(onGrid), color);
 }
 
 } // namespace ridelog

@@ -14,6 +14,8 @@ namespace ridelog {
 
 /// The font of all labels of a chart, 12 view units high.
 QFont chartLabelFont();
+/// Whether there is a font with what labels consist of; without one they are empty boxes.
+bool hasChartLabelFont();
 /// Its measure, without a device: the same for a screen, a picture and a printer.
 ChartScaling::LabelMeasure chartLabelMeasure();
 
@@ -43,8 +45,9 @@ private:
     void drawYAxisForName(const QString& name, bool second);
     void drawChartForName(const QString& name, const std::vector<float>& xValues);
     QPolygonF viewPoints(const std::vector<float>& xValues, const std::vector<float>& yValues) const;
-    void drawPolyline(const QPolygonF& points);
-    void drawColumns(const QPolygonF& points);
+    void drawLines(const QList<QPolygonF>& lines);
+    void drawStretches(const QPolygonF& line);
+    void drawColumns(const QList<QPolygonF>& lines);
     void drawPulseRange();
     void drawZone(float from, float to, const QColor& bottom, const QColor& top);
     void drawGradient(const QRectF& rect, const QColor& startColor, const QColor& endColor);

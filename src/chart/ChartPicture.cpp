@@ -9,12 +9,16 @@
 #include <QPdfWriter>
 #include <QSvgGenerator>
 
+#include <new>
+
 namespace ridelog {
 namespace {
 
 /// Of 100: details of lines and labels stay clear.
 constexpr int jpegQuality = 90;
 constexpr int usualQuality = -1;
+/// Of an SVG picture, as browsers have it.
+constexpr int unitsPerInch = 96;
 /// Points of a PDF page in an inch: one for a view unit.
 constexpr int pointsPerInch = 72;
 
@@ -26,14 +30,20 @@ QSize sizeOf(const ChartScaling::Chart& chart)
 QString drawPoints(QBuffer& out, const ChartScaling::Chart& chart, std::optional<float> indicator,
                    const char* format, int quality)
 {
+    const auto tooLarge = QStringLiteral("there is not enough memory for a picture of this size");
     QImage image(sizeOf(chart), QImage::Format_RGB32);
     if (image.isNull())
-        return QStringLiteral("there is not enough memory for a picture of this size");
-    {
-        QPainter painter(&image);
-        ChartDrawing(painter, chart, indicator).draw();
+        return tooLarge;
+    try {
+        {
+            QPainter painter(&image);
+            ChartDrawing(painter, chart, indicator).draw();
+        }
+        return image.save(&out, format, quality) ? QString()
+                                                 : QStringLiteral("the picture cannot be encoded");
+    } catch (const std::bad_alloc&) {
+        return tooLarge;
     }
-    return image.save(&out, format, quality) ? QString() : QStringLiteral("the picture cannot be encoded");
 }
 
 QString drawSvg(QBuffer& out, const ChartScaling::Chart& chart, std::optional<float> indicator)
@@ -42,6 +52,9 @@ QString drawSvg(QBuffer& out, const ChartScaling::Chart& chart, std::optional<fl
     generator.setOutputDevice(&out);
     generator.setSize(sizeOf(chart));
     generator.setViewBox(QRect(QPoint(), sizeOf(chart)));
+    generator.setResolution(unitsPerInch);
+    generator.setTitle(QStringLiteral("ridelog"));
+    generator.setDescription(chart.showNames.join(QStringLiteral(", ")));
     QPainter painter(&generator);
     ChartDrawing(painter, chart, indicator).draw();
     return {};
@@ -69,6 +82,8 @@ QStringList chartPictureEndings()
 ChartPicture chartPicture(const ChartScaling::Chart& chart, std::optional<float> indicator,
                           const QString& fileName)
 {
+    if (sizeOf(chart).isEmpty())
+        return {{}, QStringLiteral("a picture is at least one unit wide and high")};
     QBuffer out;
     out.open(QIODevice::WriteOnly);
     const auto ending = QFileInfo(fileName).suffix().toLower();

@@ -26,6 +26,8 @@ public:
         }
     };
 
+    /// The next point begins another line.
+    void beginLine() { _isBegun = false; }
     /// Leads the line on to a point that an int can hold.
     void add(float x, float y)
     {

@@ -16,7 +16,6 @@
 
 #include <QCommandLineParser>
 #include <QFileInfo>
-#include <QFontDatabase>
 #include <QRegularExpression>
 
 #include <cmath>
@@ -112,7 +111,7 @@ ExitStatus drawPicture(const ChartScaling::Chart& chart, const QString& path)
 {
     if (const auto reason = whyNotWritable(path))
         return fail(path, *reason);
-    if (QFontDatabase::families().isEmpty())
+    if (!hasChartLabelFont())
         return fail(path, QStringLiteral("there is no font for the labels (fontconfig finds none)"));
     const auto picture = chartPicture(chart, std::nullopt, path);
     if (!picture.error.isEmpty())

@@ -30,14 +30,16 @@ bool isUtf8(const char* word)
     return !decoder.hasError();
 }
 
-/// Pictures need fonts, but no screen.
-std::unique_ptr<QCoreApplication> applicationFor(int& argc, char* argv[])
+/// Pictures need fonts, but no screen. The toolkit has words of its own, which are none of ours: it sees only
+/// the program's name.
+std::unique_ptr<QCoreApplication> applicationFor(const QStringList& words, char* argv[])
 {
-    const auto* command = argc > 1 ? ridelog::commandNamed(QString::fromUtf8(argv[1])) : nullptr;
+    static int nameOnly = 1;
+    const auto* command = words.size() > 1 ? ridelog::commandNamed(words[1]) : nullptr;
     if (!command || !command->drawsPictures())
-        return std::make_unique<QCoreApplication>(argc, argv);
+        return std::make_unique<QCoreApplication>(nameOnly, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    return std::make_unique<QGuiApplication>(argc, argv);
+    return std::make_unique<QGuiApplication>(nameOnly, argv);
 }
 
 } // namespace
@@ -49,13 +51,15 @@ int main(int argc, char* argv[])
     std::signal(SIGXFSZ, SIG_IGN);
     // Before the toolkit starts, so that it is as quiet as the application.
     ridelog::setLogLevel(ridelog::LogLevel::none);
-    const auto application = applicationFor(argc, argv);
+    QStringList words;
+    for (int i = 0; i < argc; ++i)
+        words << QString::fromUtf8(argv[i]);
+    const auto application = applicationFor(words, argv);
     for (int i = 1; i < argc; ++i) {
         if (!isUtf8(argv[i])) {
-            const auto status =
-                ridelog::wrongWords(QStringLiteral("'%1' is not UTF-8").arg(QString::fromUtf8(argv[i])));
+            const auto status = ridelog::wrongWords(QStringLiteral("'%1' is not UTF-8").arg(words[i]));
             return static_cast<int>(status);
         }
     }
-    return static_cast<int>(ridelog::runCommandLine(QCoreApplication::arguments()));
+    return static_cast<int>(ridelog::runCommandLine(words));
 }

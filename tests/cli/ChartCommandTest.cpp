@@ -88,6 +88,7 @@ TEST_F(ChartCommand, SaysWhatIsWrong)
         {picture + QStringLiteral(" --y altitude,altitude"), 2},
         {picture + QStringLiteral(" --manual-range 9,5"), 2},
         {picture + QStringLiteral(" --manual-range 5"), 2},
+        {picture + QStringLiteral(" -platform xcb"), 2},
         {QStringLiteral("-o ") + path("none/x.png"), 3},
     };
     for (const auto& [words, status] : cases) {
