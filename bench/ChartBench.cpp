@@ -4,9 +4,9 @@
 
 #include "bench/RatioReport.h"
 #include "chart/ChartDrawing.h"
-#include "model/SeriesNames.h"
 #include "format/UnitFormatters.h"
 #include "library/DefaultsKeys.h"
+#include "model/SeriesNames.h"
 #include "platform/Defaults.h"
 #include "platform/Log.h"
 #include "tests/support/ChartData.h"
