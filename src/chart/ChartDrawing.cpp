@@ -317,7 +317,7 @@ void ChartDrawing::drawColumns(const QList<QPolygonF>& lines)
             const auto bottom = extent.most + edge;
             const auto first = static_cast<int>(std::ceil(top));
             const auto end = static_cast<int>(std::floor(bottom));
-            const auto step = [](float part) { return static_cast<std::size_t>(part * full + 0.5F); };
+            const auto step = [](float part) { return static_cast<std::size_t>(std::lround(part * full)); };
             rows[step(static_cast<float>(first) - top)].append({left, first - 1, width, 1});
             if (first < end)
                 rows[full].append({left, first, width, end - first});

@@ -30,7 +30,7 @@ QSize sizeOf(const ChartScaling::Chart& chart)
 QString drawPoints(QBuffer& out, const ChartScaling::Chart& chart, std::optional<float> indicator,
                    const char* format, int quality)
 {
-    const auto tooLarge = QStringLiteral("there is not enough memory for a picture of this size");
+    auto tooLarge = QStringLiteral("there is not enough memory for a picture of this size");
     QImage image(sizeOf(chart), QImage::Format_RGB32);
     if (image.isNull())
         return tooLarge;
