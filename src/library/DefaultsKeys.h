@@ -1,6 +1,7 @@
 #pragma once
 
 #include "format/UnitsKeys.h"
+#include "platform/UpdateKeys.h"
 
 #include <QString>
 
@@ -8,8 +9,8 @@ namespace ridelog {
 
 class Defaults;
 
-/// The keys of the user's choices, each written here and nowhere else but for the one that formatters read,
-/// and the values that count while the user has made none.
+/// The keys of the user's choices, each written here and nowhere else but for those that formatters and the
+/// update check read, and the values that count while the user has made none.
 namespace DefaultsKeys {
 
 // Main window
@@ -51,9 +52,9 @@ inline const QString odoStatDate =
     QStringLiteral("odoStatDate"); ///< date whose week, month and year are shown
 
 // Update check
-inline const QString checkForUpdateAfterDays = QStringLiteral("checkForUpdateAfterDays"); ///< integer: days
-inline const QString automaticCheck = QStringLiteral("automaticCheck");                   ///< bool
-inline const QString checkedForUpdateOn = QStringLiteral("checkedForUpdateOn"); ///< date of the last check
+inline const QString automaticCheck = QStringLiteral("automaticCheck"); ///< bool
+using UpdateKeys::checkedForUpdateOn;                                   ///< date of the last check
+using UpdateKeys::checkForUpdateAfterDays;                              ///< integer: days
 
 // Documents
 inline const QString recentDocuments =
