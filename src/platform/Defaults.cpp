@@ -163,6 +163,9 @@ bool Defaults::synchronize()
 
 Defaults::Values Defaults::exchange()
 {
+    if (path().isEmpty())
+        return _stored;
+
     auto content = _stored;
     const auto read = _file.read();
     bool done = read.has_value();

@@ -29,6 +29,7 @@ class Defaults : public QObject {
 public:
     /// Over the file userPath().
     explicit Defaults(QObject* parent = nullptr);
+    /// Over another file. An empty path stands for none: what is set lasts as long as the store.
     explicit Defaults(const QString& path, QObject* parent = nullptr);
     ~Defaults() override;
 

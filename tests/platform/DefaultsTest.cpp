@@ -413,6 +413,22 @@ TEST_F(DefaultsTest, AFolderThatCannotBeMadeLeavesTheValuesInMemory)
     EXPECT_EQ(Defaults(defaults.path()).integerForKey(key), 1);
 }
 
+TEST_F(DefaultsTest, WithoutAFileTheValuesLastAsLongAsTheStore)
+{
+    const LogCapture log;
+    const auto before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(folder.path()));
+    {
+        Defaults defaults{QString()};
+        defaults.setValue(key, 1);
+        EXPECT_TRUE(defaults.synchronize());
+        EXPECT_EQ(defaults.integerForKey(key), 1);
+    }
+    QDir::setCurrent(before);
+    EXPECT_EQ(log.errors(), QStringList());
+    EXPECT_EQ(files(), QStringList());
+}
+
 TEST_F(DefaultsTest, WhatIsNoRegularFileIsLeftAlone)
 {
     const LogCapture log;
