@@ -2,6 +2,7 @@
 
 #include "platform/CalendarDate.h"
 #include "platform/Log.h"
+#include "update/ApplicationInfo.h"
 
 #include <QCommandLineParser>
 #include <QMap>
@@ -160,7 +161,7 @@ ExitStatus runCommandLine(const QStringList& words)
     if (first == QStringLiteral("--help") || first == QStringLiteral("-h"))
         return print(programHelp());
     if (first == QStringLiteral("--version") || first == QStringLiteral("-v"))
-        return print(QStringLiteral("%1 %2\n").arg(programName, QStringLiteral(RIDELOG_VERSION)));
+        return print(QStringLiteral("%1 %2\n").arg(programName, runningApplication().version));
 
     if (const auto* command = commandNamed(first))
         return runCommand(*command, words);
