@@ -1,6 +1,7 @@
 #include "cli/Command.h"
 
 #include "cli/ChartCommand.h"
+#include "cli/CheckUpdateCommand.h"
 #include "cli/EditCommand.h"
 #include "cli/ImportCommand.h"
 #include "cli/InspectCommand.h"
@@ -45,6 +46,7 @@ const std::vector<std::unique_ptr<const Command>>& allCommands()
         list.push_back(std::make_unique<ReceiveCommand>());
         list.push_back(std::make_unique<MakeDumpCommand>());
         list.push_back(std::make_unique<SimulateCommand>());
+        list.push_back(std::make_unique<CheckUpdateCommand>());
         return list;
     }();
     return commands;
