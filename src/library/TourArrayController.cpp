@@ -1,6 +1,7 @@
 #include "library/TourArrayController.h"
 
 #include "library/MyDocument.h"
+#include "library/TourSearch.h"
 
 #include <algorithm>
 #include <utility>
@@ -28,13 +29,24 @@ void TourArrayController::setSortDescriptors(SortDescriptors descriptors)
     rearrangeObjects();
 }
 
+void TourArrayController::setSearchText(const QString& text)
+{
+    if (text == _searchText)
+        return;
+    _searchText = text;
+    rearrangeObjects();
+}
+
 Tours TourArrayController::arrangeObjects(const Tours& tours) const
 {
-    if (!_filterDeletedItems)
+    const TourSearch search(_searchText);
+    if (!_filterDeletedItems && search.findsAll())
         return sortedTours(tours, _sortDescriptors);
     Tours kept;
     kept.reserve(tours.size());
-    std::ranges::copy_if(tours, std::back_inserter(kept), [](const auto& tour) { return !tour->removed(); });
+    std::ranges::copy_if(tours, std::back_inserter(kept), [&](const auto& tour) {
+        return !(_filterDeletedItems && tour->removed()) && search.finds(*tour);
+    });
     return sortedTours(kept, _sortDescriptors);
 }
 

@@ -31,6 +31,10 @@ public:
     bool filterDeletedItems() const { return _filterDeletedItems; }
     /// Counts from the next rearrangement on.
     void setFilterDeletedItems(bool filter) { _filterDeletedItems = filter; }
+    /// What the rider looks for: only tours are listed that have each of these words in their title, type,
+    /// description or date, in whatever case. Rearranges.
+    void setSearchText(const QString& text);
+    const QString& searchText() const { return _searchText; }
     const SortDescriptors& sortDescriptors() const { return _sortDescriptors; }
     /// Rearranges. Without descriptors the tours stand as they do in the document.
     void setSortDescriptors(SortDescriptors descriptors);
@@ -89,6 +93,7 @@ private:
 
     MyDocument& _document;
     bool _filterDeletedItems = true;
+    QString _searchText;
     SortDescriptors _sortDescriptors = newestFirst();
     Tours _arrangedObjects;
     std::unordered_map<const OdoTour*, Place> _places; ///< of all tours of the document
