@@ -16,7 +16,11 @@ namespace DefaultsKeys {
 // Main window
 inline const QString selectedRow = QStringLiteral("selectedRow"); ///< integer: row of the tour table
 inline const QString sortDesc = QStringLiteral("sortDesc"); ///< text: order of the tour table, "date:desc"
-inline const QString drawerOpen = QStringLiteral("drawerOpen"); ///< bool: the connect drawer
+inline const QString mainTableColumns =
+    QStringLiteral("mainTableColumns"); ///< bytes: arrangement of the table's columns
+inline const QString mainWindowState = QStringLiteral("mainWindowState"); ///< bytes: docks and tool bars
+inline const QString mainSplitter = QStringLiteral("mainSplitter");       ///< bytes: table above, chart below
+inline const QString drawerOpen = QStringLiteral("drawerOpen");           ///< bool: the connect drawer
 inline const QString selectedInterfacePort =
     QStringLiteral("selectedInterfacePort"); ///< text: path of a port
 

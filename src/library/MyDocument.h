@@ -102,8 +102,11 @@ public:
     };
     /// Imports a raw dump, general data included. One that cannot be decoded changes nothing.
     Import importFile(const QString& path, const QDateTime& now = CalendarDate::now());
-    /// Takes a whole dump from the device, and keeps it as a file if the user wants that.
-    Import handleTransferFinished(const QByteArray& dump, const QDateTime& now = CalendarDate::now());
+    /// Whether a dump that has arrived is also kept as a file.
+    enum class RawDump { asTheUserWants, isNotKept };
+    /// Takes a whole dump from the device.
+    Import handleTransferFinished(const QByteArray& dump, const QDateTime& now = CalendarDate::now(),
+                                  RawDump rawDump = RawDump::asTheUserWants);
     /// Marks a tour as removed, or takes the mark away. It stays in the document.
     void deleteTour(const std::shared_ptr<OdoTour>& tour);
     void undeleteTour(const std::shared_ptr<OdoTour>& tour);

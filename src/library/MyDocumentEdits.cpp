@@ -84,11 +84,13 @@ MyDocument::Import MyDocument::importFile(const QString& path, const QDateTime& 
     return import;
 }
 
-MyDocument::Import MyDocument::handleTransferFinished(const QByteArray& dump, const QDateTime& now)
+MyDocument::Import MyDocument::handleTransferFinished(const QByteArray& dump, const QDateTime& now,
+                                                      RawDump rawDump)
 {
     qCDebug(lcLibrary, "[handleTransferFinished]");
     qCDebug(lcLibrary, "data received %lld", static_cast<long long>(dump.size()));
-    if (_defaults && _defaults->boolForKey(DefaultsKeys::saveRawData))
+    const bool isWanted = _defaults && _defaults->boolForKey(DefaultsKeys::saveRawData);
+    if (isWanted && rawDump == RawDump::asTheUserWants)
         keepFinishedDump(dump);
     const UndoGroup oneStep(_undoManager);
     return mergeDump(OdoData::initWithData(dump, now));

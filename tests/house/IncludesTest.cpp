@@ -34,7 +34,7 @@ const QMap<QString, QSet<QString>>& allowedFolders()
             {key("exchange"), folders("platform model format library")},
             {key("ui"), folders(all)},
             {key("cli"), folders(all)},
-            {key("app"), folders("ui")},
+            {key("app"), folders((std::string("ui ") + all).c_str())},
         };
     }();
     return table;

@@ -1,0 +1,174 @@
+#include "ui/ApplicationWindows.h"
+
+#include "library/AppController.h"
+#include "platform/Defaults.h"
+#include "ui/MainWindowController.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace ridelog {
+namespace {
+
+constexpr qint64 enoughToTell = 64;
+
+/// A new document that nobody has done anything with.
+bool isUntouched(const MyDocument& document)
+{
+    return document.path().isEmpty() && document.toursArray().empty() && !document.isChanged();
+}
+
+} // namespace
+
+ApplicationWindows::ApplicationWindows(AppController& controller, Defaults& defaults, QObject* parent)
+    : QObject(parent), _controller(controller), _defaults(defaults)
+{
+    connect(&_controller, &AppController::documentOpened, this,
+            [this](MyDocument* document) { addWindow(*document); });
+    connect(&_controller, &AppController::openFailed, this, &ApplicationWindows::showFailure);
+}
+
+ApplicationWindows::~ApplicationWindows()
+{
+    // Windows know their documents, which the controller destroys later.
+    for (auto* window : mainWindows())
+        delete window;
+    delete _startWindow;
+}
+
+std::vector<MainWindowController*> ApplicationWindows::mainWindows() const
+{
+    return _mainWindows;
+}
+
+void ApplicationWindows::addWindow(MyDocument& document)
+{
+    auto* window = new MainWindowController(*this, document, _defaults);
+    _mainWindows.push_back(window);
+    connect(window, &QObject::destroyed, this, [this, window, &document] {
+        std::erase(_mainWindows, window);
+        _controller.closeDocument(document);
+    });
+    if (_mainWindows.size() > 1)
+        window->move(_mainWindows[_mainWindows.size() - 2]->pos() + QPoint(30, 30));
+    window->show();
+    if (_startWindow)
+        _startWindow->close();
+}
+
+MainWindowController* ApplicationWindows::windowInFront() const
+{
+    const auto active = std::ranges::find_if(_mainWindows, &QWidget::isActiveWindow);
+    if (active != _mainWindows.end())
+        return *active;
+    return _mainWindows.empty() ? nullptr : _mainWindows.back();
+}
+
+MainWindowController* ApplicationWindows::windowOf(const MyDocument& document) const
+{
+    const auto found = std::ranges::find_if(
+        _mainWindows, [&](const auto* window) { return &window->myDocument() == &document; });
+    return found == _mainWindows.end() ? nullptr : *found;
+}
+
+void ApplicationWindows::bringToFront(QWidget& window)
+{
+    if (window.isMinimized())
+        window.showNormal();
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+// Opening
+
+bool ApplicationWindows::holdsDocument(const QString& path)
+{
+    QFile file(path);
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) &&
+           MyDocument::isDocument(file.read(enoughToTell));
+}
+
+void ApplicationWindows::start(const QStringList& paths)
+{
+    if (!paths.isEmpty())
+        takeFiles(paths);
+    else if (_controller.applicationShouldOpenUntitledFile())
+        _controller.newDocument();
+    if (_mainWindows.empty() && !_startWindow)
+        _controller.newDocument();
+}
+
+void ApplicationWindows::takeFiles(const QStringList& paths)
+{
+    QStringList dumps;
+    for (const auto& path : paths) {
+        if (holdsDocument(path) || !QFileInfo(path).isFile())
+            openDocument(path, windowInFront());
+        else
+            dumps << path;
+    }
+    if (_mainWindows.empty() && !_startWindow)
+        _controller.newDocument();
+    for (const auto& dump : std::as_const(dumps)) {
+        if (auto* window = windowInFront())
+            window->importDump(dump);
+    }
+    if (auto* window = windowInFront())
+        bringToFront(*window);
+}
+
+void ApplicationWindows::openDocument(const QString& path, QWidget* over)
+{
+    const auto* document = _controller.openDocument(path);
+    if (!document)
+        return;
+    if (auto* window = windowOf(*document))
+        bringToFront(*window);
+    // A window that asks something right now stays.
+    if (auto* replaced = qobject_cast<MainWindowController*>(over);
+        replaced && !QApplication::activeModalWidget() && &replaced->myDocument() != document &&
+        isUntouched(replaced->myDocument()))
+        replaced->close();
+}
+
+void ApplicationWindows::askForDocument(QWidget* over)
+{
+    auto* panel = new QFileDialog(over, tr("Open"));
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    panel->setFileMode(QFileDialog::ExistingFile);
+    panel->setNameFilters({tr("Tours (*.%1)").arg(MyDocument::extension), tr("All files (*)")});
+    connect(panel, &QFileDialog::fileSelected, this, [this, over = QPointer(over)](const QString& path) {
+        if (holdsDocument(path) || !qobject_cast<MainWindowController*>(over))
+            openDocument(path, over);
+        else
+            qobject_cast<MainWindowController*>(over)->importDump(path);
+    });
+    panel->open();
+}
+
+void ApplicationWindows::showFailure(const QString& path, const QString& reason)
+{
+    const auto message = tr("%1 could not be opened: %2").arg(path, reason);
+    if (auto* window = windowInFront()) {
+        window->showMessage(message);
+        return;
+    }
+    if (!_startWindow) {
+        _startWindow = new StartWindow(*this);
+        _startWindow->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    _startWindow->showMessage(message);
+    bringToFront(*_startWindow);
+}
+
+void ApplicationWindows::quit()
+{
+    QApplication::closeAllWindows();
+}
+
+} // namespace ridelog

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "ui/SimulatedDevice.h"
+#include "ui/StartWindow.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+QT_FORWARD_DECLARE_CLASS(QWidget)
+
+namespace ridelog {
+
+class AppController;
+class Defaults;
+class MainWindowController;
+class MyDocument;
+class XMLUpdater;
+
+/// The windows of the application: a main window for each open document, or the start window while there is
+/// none.
+class ApplicationWindows : public QObject {
+    Q_OBJECT
+
+public:
+    /// Both have to outlive it.
+    ApplicationWindows(AppController& controller, Defaults& defaults, QObject* parent = nullptr);
+    ~ApplicationWindows() override;
+
+    AppController& controller() { return _controller; }
+    SimulatedDevice& simulatedDevice() { return _simulatedDevice; }
+    /// In the order in which they were opened.
+    std::vector<MainWindowController*> mainWindows() const;
+    StartWindow* startWindow() const { return _startWindow; }
+
+    /// Begins with these files, or as AppController has it.
+    void start(const QStringList& paths);
+    /// Opens documents, and imports dumps into the document in front. Without files it comes to the front.
+    void takeFiles(const QStringList& paths);
+
+    /// Opens a document, and lets go of an untouched new one that `over` shows. What goes wrong is said
+    /// there.
+    void openDocument(const QString& path, QWidget* over);
+    void askForDocument(QWidget* over);
+    /// Looks for newer versions there and not where the build says.
+    void setUpdateUrl(const QString& url) { _updateUrl = url; }
+    /// Looks for a newer version if that is due, and says so only if there is one.
+    void checkForUpdatesIfDue(QWidget& over);
+    /// Looks for one now, and says what was found.
+    void checkForUpdates(QWidget& over);
+
+    /// Closes all windows, as far as the user lets them.
+    void quit();
+
+    /// Whether the file begins as a document does.
+    static bool holdsDocument(const QString& path);
+    static void bringToFront(QWidget& window);
+
+private:
+    void addWindow(MyDocument& document);
+    MainWindowController* windowInFront() const;
+    MainWindowController* windowOf(const MyDocument& document) const;
+    XMLUpdater& newUpdater(QWidget& over) const;
+    void showFailure(const QString& path, const QString& reason);
+
+    AppController& _controller;
+    Defaults& _defaults;
+    SimulatedDevice _simulatedDevice;
+    std::optional<QString> _updateUrl;
+    std::vector<MainWindowController*> _mainWindows;
+    QPointer<StartWindow> _startWindow;
+};
+
+} // namespace ridelog

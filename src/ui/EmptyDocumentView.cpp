@@ -1,0 +1,42 @@
+#include "ui/EmptyDocumentView.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace ridelog {
+
+EmptyDocumentView::EmptyDocumentView(QWidget* parent) : QWidget(parent)
+{
+    auto* heading = new QLabel(tr("No tours yet"));
+    auto font = heading->font();
+    font.setPointSizeF(font.pointSizeF() * 1.6);
+    heading->setFont(font);
+    heading->setAlignment(Qt::AlignCenter);
+    auto* text = new QLabel(tr("Take them from your cycle computer, or import a raw dump of its memory. You "
+                               "can also drop a dump on this window."));
+    text->setAlignment(Qt::AlignCenter);
+    text->setWordWrap(true);
+    text->setFixedWidth(420);
+
+    auto* connectDevice = new QPushButton(tr("Connect &Device"));
+    auto* importDump = new QPushButton(tr("&Import Dump…"));
+    connect(connectDevice, &QPushButton::clicked, this, &EmptyDocumentView::connectDeviceRequested);
+    connect(importDump, &QPushButton::clicked, this, &EmptyDocumentView::importDumpRequested);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(connectDevice);
+    buttons->addWidget(importDump);
+    buttons->addStretch();
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setSpacing(14);
+    layout->addStretch();
+    layout->addWidget(heading);
+    layout->addWidget(text, 0, Qt::AlignHCenter);
+    layout->addLayout(buttons);
+    layout->addStretch();
+}
+
+} // namespace ridelog

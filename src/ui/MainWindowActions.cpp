@@ -1,0 +1,331 @@
+// Menus, tool bar and what they do.
+
+#include "library/AppController.h"
+#include "library/DefaultsKeys.h"
+#include "platform/Defaults.h"
+#include "ui/ApplicationWindows.h"
+#include "ui/ConnectView.h"
+#include "ui/Counted.h"
+#include "ui/MainWindowController.h"
+#include "ui/SimulatedDevice.h"
+#include "ui/TourTableView.h"
+#include "ui/UiLog.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QDockWidget>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QToolBar>
+#include <QUrl>
+
+namespace ridelog {
+
+QAction* MainWindowController::addAction(QMenu& menu, const QString& text, const QKeySequence& keys,
+                                         const QString& icon, void (MainWindowController::*slot)())
+{
+    auto* action = menu.addAction(text, this, slot);
+    action->setShortcut(keys);
+    if (!icon.isEmpty())
+        action->setIcon(QIcon::fromTheme(icon));
+    return action;
+}
+
+void MainWindowController::makeActions()
+{
+    makeFileMenu();
+    makeEditMenu();
+    makeTourMenu();
+    makeDeviceMenu();
+    makeWindowMenu();
+    makeHelpMenu();
+    makeToolBar();
+}
+
+void MainWindowController::makeFileMenu()
+{
+    using Window = MainWindowController;
+    auto& menu = *menuBar()->addMenu(tr("&File"));
+    addAction(menu, tr("&New"), QKeySequence::New, QStringLiteral("document-new"), &Window::newDocument);
+    addAction(menu, tr("&Open…"), QKeySequence::Open, QStringLiteral("document-open"), &Window::openDocument);
+    _recentMenu = menu.addMenu(tr("Open &Recent"));
+    connect(_recentMenu, &QMenu::aboutToShow, this, &Window::fillRecentMenu);
+    menu.addSeparator();
+    _importAction = addAction(menu, tr("&Import Dump…"), Qt::CTRL | Qt::Key_I,
+                              QStringLiteral("document-import"), &Window::importFile);
+    menu.addSeparator();
+    _saveAction = addAction(menu, tr("&Save"), QKeySequence::Save, QStringLiteral("document-save"),
+                            &Window::saveDocument);
+    addAction(menu, tr("Save &As…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S, QStringLiteral("document-save-as"),
+              &Window::saveDocumentAs);
+    _revertAction =
+        addAction(menu, tr("Re&vert"), {}, QStringLiteral("document-revert"), &Window::revertDocument);
+    menu.addSeparator();
+    auto* closeAction = menu.addAction(tr("&Close"), this, &QWidget::close);
+    closeAction->setShortcut(QKeySequence::Close);
+    auto* quitAction = menu.addAction(QIcon::fromTheme(QStringLiteral("application-exit")), tr("&Quit"),
+                                      &_windows, &ApplicationWindows::quit);
+    quitAction->setShortcut(Qt::CTRL | Qt::Key_Q);
+    quitAction->setMenuRole(QAction::QuitRole);
+}
+
+void MainWindowController::makeEditMenu()
+{
+    using Window = MainWindowController;
+    auto& menu = *menuBar()->addMenu(tr("&Edit"));
+    _undoAction = addAction(menu, {}, QKeySequence::Undo, QStringLiteral("edit-undo"), &Window::undo);
+    _redoAction =
+        addAction(menu, {}, Qt::CTRL | Qt::SHIFT | Qt::Key_Z, QStringLiteral("edit-redo"), &Window::redo);
+    menu.addSeparator();
+    _removeAction = addAction(menu, tr("Re&move Tour"), Qt::Key_Delete, QStringLiteral("edit-delete"),
+                              &Window::deleteSelectedTour);
+    _restoreAction =
+        addAction(menu, tr("Re&store Tour"), Qt::SHIFT | Qt::Key_Delete, {}, &Window::undeleteSelectedTour);
+    _showRemovedAction = menu.addAction(tr("S&how Removed Tours"));
+    _showRemovedAction->setCheckable(true);
+    _showRemovedAction->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_R);
+    connect(_showRemovedAction, &QAction::toggled, this, &Window::showRemoved);
+    menu.addSeparator();
+    addAction(menu, tr("&Find"), QKeySequence::Find, QStringLiteral("edit-find"), &Window::find);
+    addAction(menu, tr("Select &All"), QKeySequence::SelectAll, QStringLiteral("edit-select-all"),
+              &Window::selectAll);
+    menu.addSeparator();
+    auto& units = *menu.addMenu(tr("Un&its"));
+    auto* group = new QActionGroup(this);
+    for (const bool miles : {false, true}) {
+        auto* action =
+            units.addAction(miles ? tr("&Miles, mph and Feet") : tr("&Kilometres, km/h and Metres"));
+        action->setCheckable(true);
+        group->addAction(action);
+        const auto check = [this, action, miles] {
+            action->setChecked(_defaults.boolForKey(DefaultsKeys::useMiles) == miles);
+        };
+        check();
+        _defaults.observe(DefaultsKeys::useMiles, this, check);
+        connect(action, &QAction::triggered, this,
+                [this, miles] { _defaults.setValue(DefaultsKeys::useMiles, miles); });
+    }
+    // The actions that the keys of the table mean as well.
+    _tableView->addActions({_removeAction, _restoreAction});
+}
+
+void MainWindowController::makeTourMenu()
+{
+    auto& menu = *menuBar()->addMenu(tr("&Tour"));
+    _editTitleAction = addAction(menu, tr("Edit &Title"), Qt::Key_F2, QStringLiteral("edit-rename"),
+                                 &MainWindowController::editTitle);
+    _tableView->insertAction(_removeAction, _editTitleAction);
+}
+
+void MainWindowController::makeDeviceMenu()
+{
+    using Window = MainWindowController;
+    auto& menu = *menuBar()->addMenu(tr("&Device"));
+    _transferButton =
+        menu.addAction(QIcon::fromTheme(QStringLiteral("network-wired")), tr("Connect &Drawer"));
+    _transferButton->setIconText(tr("Device"));
+    _transferButton->setCheckable(true);
+    _transferButton->setShortcut(Qt::CTRL | Qt::Key_D);
+    connect(_transferButton, &QAction::triggered, this, &Window::toggleConnectDrawer);
+    menu.addSeparator();
+    _startTransferAction = addAction(menu, tr("&Start Transfer"), Qt::CTRL | Qt::Key_T,
+                                     QStringLiteral("media-playback-start"), &Window::startTransfer);
+    _stopTransferAction = addAction(menu, tr("S&top Transfer"), Qt::CTRL | Qt::Key_Period,
+                                    QStringLiteral("media-playback-stop"), &Window::stopTransfer);
+    _stopTransferAction->setEnabled(false);
+    menu.addSeparator();
+    _simulatedDeviceAction = addAction(menu, tr("Simulated De&vice"), Qt::CTRL | Qt::SHIFT | Qt::Key_D, {},
+                                       &Window::toggleSimulatedDevice);
+    _simulatedDeviceAction->setCheckable(true);
+    const auto check = [this] {
+        _simulatedDeviceAction->setChecked(_windows.simulatedDevice().isPluggedIn());
+    };
+    check();
+    connect(&_windows.simulatedDevice(), &SimulatedDevice::changed, this, check);
+    connect(&_connectView->connectButton(), &QPushButton::clicked, this, &Window::connectToOdo);
+}
+
+void MainWindowController::makeWindowMenu()
+{
+    _windowMenu = menuBar()->addMenu(tr("&Window"));
+    connect(_windowMenu, &QMenu::aboutToShow, this, &MainWindowController::fillWindowMenu);
+}
+
+void MainWindowController::makeHelpMenu()
+{
+    auto& menu = *menuBar()->addMenu(tr("&Help"));
+    addAction(menu, tr("&Check for Updates…"), {}, {}, &MainWindowController::checkForUpdates);
+    addAction(menu, tr("Send &Feedback…"), {}, {}, &MainWindowController::sendFeedback);
+    menu.addSeparator();
+    auto* about = addAction(menu, tr("&About ridelog"), {}, QStringLiteral("help-about"),
+                            &MainWindowController::showAbout);
+    about->setMenuRole(QAction::AboutRole);
+}
+
+void MainWindowController::makeToolBar()
+{
+    auto& bar = *addToolBar(tr("Tool Bar"));
+    bar.setObjectName(QStringLiteral("toolBar"));
+    bar.setMovable(false);
+    bar.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    bar.setContextMenuPolicy(Qt::PreventContextMenu);
+    _importAction->setIconText(tr("Import"));
+    bar.addActions({_transferButton, _importAction});
+    auto* space = new QWidget;
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar.addWidget(space);
+
+    _searchField = new QLineEdit;
+    _searchField->setPlaceholderText(tr("Search"));
+    _searchField->setAccessibleName(tr("Search"));
+    _searchField->setClearButtonEnabled(true);
+    _searchField->setMaximumWidth(240);
+    connect(_searchField, &QLineEdit::textChanged, &_tourController, &TourArrayController::setSearchText);
+    auto* clear = new QAction(_searchField);
+    clear->setShortcut(Qt::Key_Escape);
+    clear->setShortcutContext(Qt::WidgetShortcut);
+    connect(clear, &QAction::triggered, _searchField, &QLineEdit::clear);
+    _searchField->addAction(clear);
+    bar.addWidget(_searchField);
+}
+
+void MainWindowController::fillRecentMenu()
+{
+    _recentMenu->clear();
+    const auto paths = _windows.controller().recentDocuments();
+    for (const auto& path : paths) {
+        const QFileInfo file(path);
+        // An ampersand in a name is none of the menu's.
+        auto name = QStringLiteral("%1  (%2)").arg(file.fileName(), QDir::toNativeSeparators(file.path()));
+        auto* action = _recentMenu->addAction(name.replace(u'&', QStringLiteral("&&")));
+        connect(action, &QAction::triggered, this, [this, path] { _windows.openDocument(path, this); });
+    }
+    if (paths.isEmpty())
+        _recentMenu->addAction(tr("No Documents Yet"))->setEnabled(false);
+}
+
+void MainWindowController::fillWindowMenu()
+{
+    _windowMenu->clear();
+    for (auto* window : _windows.mainWindows()) {
+        auto title = window->windowTitle().remove(QStringLiteral("[*]"));
+        auto* action = _windowMenu->addAction(title.replace(u'&', QStringLiteral("&&")));
+        action->setCheckable(true);
+        action->setChecked(window == this);
+        connect(action, &QAction::triggered, window, [window] { ApplicationWindows::bringToFront(*window); });
+    }
+}
+
+// What they do
+
+/// Text that is still being edited counts.
+void MainWindowController::finishEditing()
+{
+    if (auto* editor = QApplication::focusWidget(); editor && _tableView->isAncestorOf(editor))
+        _tableView->setFocus();
+}
+
+void MainWindowController::undo()
+{
+    finishEditing();
+    _document.undoManager().undo();
+}
+
+void MainWindowController::redo()
+{
+    finishEditing();
+    _document.undoManager().redo();
+}
+
+void MainWindowController::deleteSelectedTour()
+{
+    const auto count = static_cast<qsizetype>(_tourController.selection().size());
+    _tourController.deleteSelectedTours();
+    showMessage(counted(count, tr("1 tour removed."), tr("%1 tours removed.")) + u' ' +
+                tr("What is removed stays in the document: see Edit > Show Removed Tours."));
+    tableViewSelectionDidChange();
+}
+
+void MainWindowController::undeleteSelectedTour()
+{
+    const auto count = static_cast<qsizetype>(_tourController.selection().size());
+    _tourController.undeleteSelectedTours();
+    showMessage(counted(count, tr("1 tour restored."), tr("%1 tours restored.")));
+    tableViewSelectionDidChange();
+}
+
+void MainWindowController::showRemoved(bool show)
+{
+    _tourController.setFilterDeletedItems(!show);
+    _tourController.rearrangeObjects();
+}
+
+void MainWindowController::find()
+{
+    _searchField->setFocus(Qt::ShortcutFocusReason);
+    _searchField->selectAll();
+}
+
+void MainWindowController::selectAll()
+{
+    if (_searchField->hasFocus())
+        _searchField->selectAll();
+    else
+        _tableView->selectAll();
+}
+
+void MainWindowController::editTitle()
+{
+    _tableView->editTitle();
+}
+
+void MainWindowController::toggleSimulatedDevice()
+{
+    auto& device = _windows.simulatedDevice();
+    if (device.isPluggedIn()) {
+        device.unplug();
+        return;
+    }
+    if (const auto error = device.plugIn()) {
+        showMessage(tr("There is no simulated device: %1").arg(*error));
+        return;
+    }
+    if (_connectDrawer->isHidden())
+        toggleConnectDrawer();
+    _connectView->selectPort(device.path());
+    showMessage(tr("The simulated device is plugged in. Press Connect to take its tours."));
+}
+
+void MainWindowController::checkForUpdates()
+{
+    _windows.checkForUpdates(*this);
+}
+
+void MainWindowController::sendFeedback()
+{
+    qCDebug(lcUi, "[sendFeedback]");
+    const QUrl mail(QStringLiteral("mailto:%1?subject=[ridelog]%20Feedback")
+                        .arg(QStringLiteral(RIDELOG_FEEDBACK_ADDRESS)));
+    if (!QDesktopServices::openUrl(mail))
+        showMessage(tr("No mail program could be started. Write to %1.")
+                        .arg(QStringLiteral(RIDELOG_FEEDBACK_ADDRESS)));
+}
+
+void MainWindowController::showAbout()
+{
+    QMessageBox::about(this, tr("About ridelog"),
+                       tr("<b>ridelog %1</b><br>Keeps the tours of a cycle computer for a lifetime.<br><br>"
+                          "Free software under the MIT licence.")
+                           .arg(QCoreApplication::applicationVersion()));
+}
+
+} // namespace ridelog

@@ -1,0 +1,304 @@
+#include "ui/MainWindowController.h"
+
+#include "chart/ChartArrayView.h"
+#include "format/ReadableUnits.h"
+#include "format/UnitFormatters.h"
+#include "library/DefaultsKeys.h"
+#include "model/SeriesNames.h"
+#include "platform/Defaults.h"
+#include "ui/ApplicationWindows.h"
+#include "ui/ConnectView.h"
+#include "ui/Counted.h"
+#include "ui/ElidedLabel.h"
+#include "ui/EmptyDocumentView.h"
+#include "ui/TourTableModel.h"
+#include "ui/TourTableView.h"
+#include "ui/UiLog.h"
+#include "ui/WindowFrame.h"
+
+#include <QAction>
+#include <QDockWidget>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QScreen>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include <numeric>
+
+namespace ridelog {
+
+Q_LOGGING_CATEGORY(lcUi, "ridelog.ui")
+
+namespace {
+
+constexpr QSize usualSize(1280, 820);
+
+/// A field that shows a value of the selected tour, next to what the value is.
+QLabel* addField(QHBoxLayout& layout, const QString& name)
+{
+    layout.addWidget(new QLabel(name));
+    auto* field = new QLabel;
+    field->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    field->setAccessibleName(name);
+    auto font = field->font();
+    font.setBold(true);
+    field->setFont(font);
+    layout.addWidget(field);
+    return field;
+}
+
+} // namespace
+
+MainWindowController::MainWindowController(ApplicationWindows& windows, MyDocument& document,
+                                           Defaults& defaults)
+    : _windows(windows), _document(document), _defaults(defaults), _tourController(document)
+{
+    qCDebug(lcUi, "-- awakeFromNib --");
+    setAcceptDrops(true);
+    setAttribute(Qt::WA_DeleteOnClose);
+    _tourController.setSortDescriptors(
+        sortDescriptorsFromText(_defaults.textForKey(DefaultsKeys::sortDesc).value_or(QString())));
+
+    makeTable();
+    makeChart();
+    _splitter = new QSplitter(Qt::Vertical);
+    _splitter->setObjectName(QStringLiteral("splitter"));
+    _splitter->setChildrenCollapsible(false);
+    _splitter->addWidget(_tableOrHint);
+    _splitter->addWidget(_chartView->parentWidget());
+    _splitter->setStretchFactor(0, 3);
+    _splitter->setStretchFactor(1, 2);
+    setCentralWidget(_splitter);
+    makeConnectDrawer();
+    makeActions();
+
+    _message = new ElidedLabel;
+    _message->setAccessibleName(tr("Message"));
+    _summary = new QLabel;
+    statusBar()->addWidget(_message, 1);
+    statusBar()->addPermanentWidget(_summary);
+
+    restoreWindow();
+    configureFormatters();
+    _tourController.selectRow(_defaults.integerForKey(DefaultsKeys::selectedRow));
+    _tableView->scrollToSelection();
+
+    connect(&_tourController, &TourArrayController::selectionChanged, this,
+            &MainWindowController::tableViewSelectionDidChange);
+    connect(&_tourController, &TourArrayController::rearranged, this, &MainWindowController::showTours);
+    connect(&_tourController, &TourArrayController::tourChanged, this, [this](int) { showSelectedTour(); });
+    connect(&_document, &MyDocument::toursArrayChanged, this, &MainWindowController::showTours);
+    connect(&_document.undoManager(), &UndoManager::changed, this, &MainWindowController::showUndo);
+    connect(&_document.undoManager(), &UndoManager::cleanChanged, this, &MainWindowController::showTitle);
+    _defaults.observe(DefaultsKeys::useMiles, this, [this] { configureFormatters(); });
+    showTours();
+    tableViewSelectionDidChange();
+    showUndo();
+    showTitle();
+    enableActions();
+    if (_document.isReadOnly())
+        showMessage(tr("The document can only be read: %1").arg(_document.readOnlyReason()));
+    if (_defaults.boolForKey(DefaultsKeys::automaticCheck))
+        _windows.checkForUpdatesIfDue(*this);
+}
+
+MainWindowController::~MainWindowController()
+{
+    endSession();
+    storeWindow();
+}
+
+// Set-up
+
+void MainWindowController::makeTable()
+{
+    _tableModel = new TourTableModel(_tourController, _defaults, this);
+    _tableView = new TourTableView(_tourController, *_tableModel, _defaults);
+    // An edited title takes its place when control is back: not while the field is still open.
+    connect(_tableModel, &TourTableModel::textEdited, &_tourController,
+            &TourArrayController::rearrangeObjects, Qt::QueuedConnection);
+    auto* hint = new EmptyDocumentView;
+    connect(hint, &EmptyDocumentView::connectDeviceRequested, this, &MainWindowController::startTransfer);
+    connect(hint, &EmptyDocumentView::importDumpRequested, this, &MainWindowController::importFile);
+    _tableOrHint = new QStackedWidget;
+    _tableOrHint->addWidget(_tableView);
+    _tableOrHint->addWidget(hint);
+}
+
+void MainWindowController::makeChart()
+{
+    _tourField = new ElidedLabel;
+    _tourField->setAccessibleName(tr("Selected tour"));
+    _tourLine = new QWidget;
+    auto* line = new QHBoxLayout(_tourLine);
+    line->setContentsMargins(8, 4, 8, 0);
+    line->addWidget(_tourField, 1);
+    line->addSpacing(12);
+    _distanceField = addField(*line, tr("Distance:"));
+    line->addSpacing(12);
+    _speedField = addField(*line, tr("Average speed:"));
+
+    _chartView = new ChartArrayView(_defaults);
+    _chartView->setShowNames({SeriesNames::altitude});
+    auto* lower = new QWidget;
+    auto* layout = new QVBoxLayout(lower);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(_tourLine);
+    layout->addWidget(_chartView, 1);
+}
+
+void MainWindowController::makeConnectDrawer()
+{
+    _connectView = new ConnectView(_windows.simulatedDevice());
+    _connectDrawer = new QDockWidget(tr("Device"), this);
+    _connectDrawer->setObjectName(QStringLiteral("connectDrawer"));
+    _connectDrawer->setWidget(_connectView);
+    addDockWidget(Qt::RightDockWidgetArea, _connectDrawer);
+}
+
+void MainWindowController::restoreWindow()
+{
+    if (!restoreFrame(*this, _defaults, DefaultsKeys::mainWindowFrame))
+        resize(usualSize.boundedTo(screen()->availableSize()));
+    restoreState(_defaults.valueForKey(DefaultsKeys::mainWindowState).toByteArray());
+    _splitter->restoreState(_defaults.valueForKey(DefaultsKeys::mainSplitter).toByteArray());
+    _connectDrawer->setVisible(_defaults.boolForKey(DefaultsKeys::drawerOpen));
+    _transferButton->setChecked(!_connectDrawer->isHidden());
+    if (!_connectDrawer->isHidden()) {
+        _connectView->refreshPorts();
+        _connectView->selectPort(
+            _defaults.textForKey(DefaultsKeys::selectedInterfacePort).value_or(QString()));
+    }
+    connect(_connectDrawer->toggleViewAction(), &QAction::toggled, this,
+            &MainWindowController::drawerDidChange);
+}
+
+void MainWindowController::storeWindow()
+{
+    storeFrame(*this, _defaults, DefaultsKeys::mainWindowFrame);
+    _defaults.setValue(DefaultsKeys::mainWindowState, saveState());
+    _defaults.setValue(DefaultsKeys::mainSplitter, _splitter->saveState());
+    _tableView->storeColumns();
+    _defaults.setValue(DefaultsKeys::sortDesc, textOfSortDescriptors(_tourController.sortDescriptors()));
+    _defaults.synchronize();
+}
+
+// What it shows
+
+void MainWindowController::tableViewSelectionDidChange()
+{
+    qCDebug(lcUi, "[MainWindowController::tableViewSelectionDidChange]");
+    enableActions();
+    const auto tour = _tourController.selectedTour();
+    // Without a single tour the chart goes on showing the last one.
+    if (!tour)
+        return;
+    qCDebug(lcUi, "Save selectedRow");
+    _defaults.setValue(DefaultsKeys::selectedRow, _tourController.selectedRows().front());
+    tour->setNameForXValue(SeriesNames::distance);
+    _chartView->setDataProvider(tour);
+    _chartView->update();
+    showSelectedTour();
+}
+
+void MainWindowController::showSelectedTour()
+{
+    const auto tour = std::dynamic_pointer_cast<const OdoTour>(_chartView->dataProvider());
+    _tourLine->setVisible(tour != nullptr);
+    if (!tour)
+        return;
+    const auto date = QLocale().toString(tour->date(), QLocale::ShortFormat);
+    _tourField->setText(
+        tour->title() == OdoTour::untitled() ? date : QStringLiteral("%1 – %2").arg(tour->title(), date));
+    _distanceField->setText(
+        UnitFormatters::mainDistance(_defaults).stringForObjectValue(tour->totalDistance()));
+    _speedField->setText(UnitFormatters::mainSpeed(_defaults).stringForObjectValue(tour->avgSpeed()));
+}
+
+void MainWindowController::configureFormatters()
+{
+    _chartView->setMpFormatterForXAxis(UnitFormatters::chartXAxis(_defaults));
+    _chartView->setMpFormatterForYAxis(UnitFormatters::chartYAxis(_defaults, SeriesNames::altitude));
+    _chartView->update();
+    _tableModel->reformat();
+    showSelectedTour();
+    showSummary();
+}
+
+void MainWindowController::showTours()
+{
+    _tableOrHint->setCurrentIndex(_document.toursArray().empty() ? 1 : 0);
+    // A selected tour keeps its selection when rows move, but not its row.
+    if (_tourController.selectedTour())
+        _defaults.setValue(DefaultsKeys::selectedRow, _tourController.selectedRows().front());
+    showSummary();
+    enableActions();
+}
+
+void MainWindowController::showSummary()
+{
+    if (!_summary)
+        return;
+    const auto& tours = _tourController.arrangedObjects();
+    const auto kilometres =
+        std::accumulate(tours.begin(), tours.end(), 0.0, [](double sum, const auto& tour) {
+            return sum + static_cast<double>(tour->totalDistance());
+        });
+    const auto distance = UnitFormatters::mainDistance(_defaults).stringForObjectValue(kilometres);
+    _summary->setText(counted(static_cast<qsizetype>(tours.size()), tr("1 tour"), tr("%1 tours")) +
+                      QStringLiteral(", ") + distance);
+}
+
+QString MainWindowController::documentName() const
+{
+    return _document.path().isEmpty() ? tr("Untitled") : QFileInfo(_document.path()).fileName();
+}
+
+void MainWindowController::showTitle()
+{
+    const auto name = _document.isReadOnly() ? tr("%1 (read-only)").arg(documentName()) : documentName();
+    setWindowTitle(QStringLiteral("%1[*]").arg(name));
+    setWindowFilePath(_document.path());
+    setWindowModified(_document.isChanged());
+    _revertAction->setEnabled(_document.isChanged() && !_document.path().isEmpty());
+}
+
+void MainWindowController::showUndo()
+{
+    const auto& undo = _document.undoManager();
+    // Action names are the library's own words, which the translation knows.
+    _undoAction->setText(tr("&Undo %1").arg(undo.undoActionName()).trimmed());
+    _undoAction->setEnabled(undo.canUndo());
+    _redoAction->setText(tr("&Redo %1").arg(undo.redoActionName()).trimmed());
+    _redoAction->setEnabled(undo.canRedo());
+    setWindowModified(_document.isChanged());
+}
+
+void MainWindowController::enableActions()
+{
+    if (!_removeAction)
+        return;
+    const auto selection = _tourController.selection();
+    const auto removed = std::ranges::count_if(selection, [](const auto& tour) { return tour->removed(); });
+    _removeAction->setEnabled(removed < static_cast<std::ptrdiff_t>(selection.size()));
+    _restoreAction->setEnabled(removed > 0);
+    _editTitleAction->setEnabled(_tourController.selectedTour() != nullptr);
+}
+
+QString MainWindowController::message() const
+{
+    return _message->text();
+}
+
+void MainWindowController::showMessage(const QString& message)
+{
+    _message->setText(message);
+}
+
+} // namespace ridelog

@@ -1,0 +1,199 @@
+#pragma once
+
+#include "device/OdoCom.h"
+#include "library/MyDocument.h"
+#include "library/TourArrayController.h"
+
+#include <QElapsedTimer>
+#include <QMainWindow>
+
+#include <memory>
+#include <optional>
+
+QT_BEGIN_NAMESPACE
+class QAction;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QMenu;
+class QSplitter;
+class QStackedWidget;
+class QToolButton;
+QT_END_NAMESPACE
+
+namespace ridelog {
+
+class ApplicationWindows;
+class ChartArrayView;
+class ConnectView;
+class Defaults;
+class ElidedLabel;
+class TourTableModel;
+class TourTableView;
+
+/// The main window of one document: its tours in a table, the chart of the selected one, and the transfer
+/// from the device.
+class MainWindowController : public QMainWindow, private OdoComDelegate {
+    Q_OBJECT
+
+public:
+    /// All three have to outlive it.
+    MainWindowController(ApplicationWindows& windows, MyDocument& document, Defaults& defaults);
+    ~MainWindowController() override;
+
+    MyDocument& myDocument() const { return _document; }
+    TourArrayController& tourController() { return _tourController; }
+
+    // What the window is made of
+
+    TourTableView& tableView() { return *_tableView; }
+    ChartArrayView& chartView() { return *_chartView; }
+    ConnectView& connectView() { return *_connectView; }
+    QDockWidget& connectDrawer() { return *_connectDrawer; }
+    QLabel& distanceField() { return *_distanceField; }
+    QLabel& speedField() { return *_speedField; }
+    QLineEdit& searchField() { return *_searchField; }
+    /// What has just happened, in words.
+    QString message() const;
+    void showMessage(const QString& message);
+
+    // Tours
+
+    /// Merges a raw dump into the document.
+    void importDump(const QString& path);
+    /// Asks for a raw dump to import.
+    void importFile();
+    /// Imports a raw dump, or opens a document, whichever the file is.
+    void takeFile(const QString& path);
+
+    // The transfer
+
+    void startTransfer();
+    void stopTransfer();
+    void toggleConnectDrawer();
+    bool isConnected() const { return _odoCom != nullptr; }
+
+    // The document's file. True if it is saved afterwards, or need not be.
+
+    bool save();
+    bool saveAs();
+    /// Saves or gives up unsaved changes, as the user wants. False if the document is to stay.
+    bool mayClose();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    // Set-up
+    void makeTable();
+    void makeChart();
+    void makeConnectDrawer();
+    void makeActions();
+    void makeFileMenu();
+    void makeEditMenu();
+    void makeTourMenu();
+    void makeDeviceMenu();
+    void makeWindowMenu();
+    void makeHelpMenu();
+    void makeToolBar();
+    QAction* addAction(QMenu& menu, const QString& text, const QKeySequence& keys, const QString& icon,
+                       void (MainWindowController::*slot)());
+    void restoreWindow();
+    void storeWindow();
+
+    // What it shows
+    void tableViewSelectionDidChange();
+    void showSelectedTour();
+    void configureFormatters();
+    void showTours();
+    void showSummary();
+    void showTitle();
+    void showUndo();
+    void enableActions();
+    void fillRecentMenu();
+    void fillWindowMenu();
+
+    // Actions
+    void newDocument();
+    void openDocument();
+    void saveDocument();
+    void saveDocumentAs();
+    void revertDocument();
+    void undo();
+    void redo();
+    void deleteSelectedTour();
+    void undeleteSelectedTour();
+    void showRemoved(bool show);
+    void find();
+    void selectAll();
+    void editTitle();
+    void checkForUpdates();
+    void sendFeedback();
+    void showAbout();
+    void toggleSimulatedDevice();
+    void finishEditing();
+
+    // The transfer
+    void connectToOdo(bool connected);
+    bool openPort();
+    void endSession();
+    void setConnected(bool connected);
+    void drawerDidChange();
+    void handleTransferStarted() override;
+    bool handlesTransferProgress() const override { return true; }
+    void handleTransferProgress(std::int32_t bytes) override;
+    void handleTransferFinished() override;
+    void handleTransferBrokenOff() override;
+    void tellMerged(const MyDocument::Import& import, const QString& what);
+    void tell(const QString& state);
+
+    // Files
+    bool refuseReadOnly();
+    bool askWhetherToOverwrite();
+    void showError(const QString& what, const QString& reason);
+    QString documentName() const;
+
+    ApplicationWindows& _windows;
+    MyDocument& _document;
+    Defaults& _defaults;
+    TourArrayController _tourController;
+
+    TourTableModel* _tableModel = nullptr;
+    TourTableView* _tableView = nullptr;
+    QStackedWidget* _tableOrHint = nullptr;
+    QSplitter* _splitter = nullptr;
+    ChartArrayView* _chartView = nullptr;
+    QWidget* _tourLine = nullptr; ///< what of the selected tour stands above its chart
+    ElidedLabel* _tourField = nullptr;
+    QLabel* _distanceField = nullptr;
+    QLabel* _speedField = nullptr;
+    ElidedLabel* _message = nullptr;
+    QLabel* _summary = nullptr;
+    QLineEdit* _searchField = nullptr;
+    QDockWidget* _connectDrawer = nullptr;
+    ConnectView* _connectView = nullptr;
+
+    QMenu* _recentMenu = nullptr;
+    QMenu* _windowMenu = nullptr;
+    QAction* _transferButton = nullptr;
+    QAction* _startTransferAction = nullptr;
+    QAction* _stopTransferAction = nullptr;
+    QAction* _simulatedDeviceAction = nullptr;
+    QAction* _importAction = nullptr;
+    QAction* _saveAction = nullptr;
+    QAction* _revertAction = nullptr;
+    QAction* _undoAction = nullptr;
+    QAction* _redoAction = nullptr;
+    QAction* _removeAction = nullptr;
+    QAction* _restoreAction = nullptr;
+    QAction* _showRemovedAction = nullptr;
+    QAction* _editTitleAction = nullptr;
+
+    std::unique_ptr<OdoCom> _odoCom; ///< none while not connected
+    bool _isSimulated = false;       ///< made-up rides: they take no real dump's place at home
+    QElapsedTimer _sinceFirstBytes;
+};
+
+} // namespace ridelog

@@ -1,0 +1,201 @@
+// The way from the device into the document.
+
+#include "device/PortProblem.h"
+#include "library/DefaultsKeys.h"
+#include "library/RawDump.h"
+#include "platform/Defaults.h"
+#include "ui/ApplicationWindows.h"
+#include "ui/BusySpinner.h"
+#include "ui/ConnectView.h"
+#include "ui/Counted.h"
+#include "ui/MainWindowController.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDockWidget>
+#include <QProgressBar>
+#include <QPushButton>
+
+#include <cmath>
+
+namespace ridelog {
+namespace {
+
+OdoCom::StopBits stopBitsFrom(const Defaults& defaults)
+{
+    return defaults.boolForKey(DefaultsKeys::useAlternateTransferSettings) ? OdoCom::StopBits::two
+                                                                           : OdoCom::StopBits::one;
+}
+
+} // namespace
+
+// The drawer
+
+void MainWindowController::toggleConnectDrawer()
+{
+    if (_connectDrawer->isHidden()) {
+        _connectView->refreshPorts();
+        _connectView->selectPort(
+            _defaults.textForKey(DefaultsKeys::selectedInterfacePort).value_or(QString()));
+    }
+    _connectDrawer->setVisible(_connectDrawer->isHidden());
+}
+
+void MainWindowController::drawerDidChange()
+{
+    // A window that is minimised or closed hides the drawer with it, which nobody has closed.
+    const bool isOpen = !_connectDrawer->isHidden();
+    _transferButton->setChecked(isOpen);
+    if (!isOpen && !_connectView->selectedPort().isEmpty())
+        _defaults.setValue(DefaultsKeys::selectedInterfacePort, _connectView->selectedPort());
+    _defaults.setValue(DefaultsKeys::drawerOpen, isOpen);
+}
+
+void MainWindowController::tell(const QString& state)
+{
+    _connectView->setState(state);
+    showMessage(state);
+}
+
+// The session
+
+void MainWindowController::setConnected(bool connected)
+{
+    _connectView->connectButton().setChecked(connected);
+    _connectView->connectButton().setText(connected ? tr("&Disconnect") : tr("&Connect"));
+    _connectView->portsPopUp().setEnabled(!connected);
+    _startTransferAction->setEnabled(!connected);
+    _stopTransferAction->setEnabled(connected);
+}
+
+void MainWindowController::startTransfer()
+{
+    if (_connectDrawer->isHidden())
+        toggleConnectDrawer();
+    if (!isConnected())
+        connectToOdo(true);
+}
+
+void MainWindowController::connectToOdo(bool connected)
+{
+    if (connected) {
+        setConnected(true);
+        _connectView->progressIndicatorBar().setValue(0);
+        _connectView->progressIndicatorSpin().startAnimation();
+        openPort();
+    } else {
+        endSession();
+        tell(tr("Disconnected."));
+    }
+}
+
+/// Where the port cannot be had the spinner goes on until the user lets go, and the line says why.
+bool MainWindowController::openPort()
+{
+    const auto port = _connectView->selectedPort();
+    if (!port.isEmpty())
+        _defaults.setValue(DefaultsKeys::selectedInterfacePort, port);
+    _isSimulated = !port.isEmpty() && port == _windows.simulatedDevice().path();
+    _odoCom = std::make_unique<OdoCom>(port, stopBitsFrom(_defaults));
+    _odoCom->setDelegate(this);
+    const bool isOpen = _odoCom->startReading();
+    if (isOpen)
+        tell(tr("Waiting for the device…"));
+    else if (port.isEmpty())
+        tell(tr("There is no serial port. Plug in the device's cable, or choose Device > Simulated Device."));
+    else
+        tell(tr("Cannot open %1: %2.").arg(port, whyPortFailed(port, _odoCom->openError())));
+    return isOpen;
+}
+
+void MainWindowController::endSession()
+{
+    if (!_odoCom)
+        return;
+    _odoCom->stopReading();
+    _odoCom->setDelegate(nullptr);
+    _odoCom.reset();
+    _connectView->progressIndicatorSpin().stopAnimation();
+    setConnected(false);
+}
+
+void MainWindowController::stopTransfer()
+{
+    if (!isConnected())
+        return;
+    _odoCom->stopReading();
+    // What was read from the line is on its way here, and belongs to what arrived.
+    QCoreApplication::sendPostedEvents();
+    const auto received = _odoCom->odoData();
+    endSession();
+    const auto kept = _isSimulated ? std::nullopt : keepStoppedDump(received);
+    const auto stopped = whyTransferWasStopped(received.size(), OdoCom::wholeDump);
+    if (!kept)
+        tell(tr("Transfer %1.").arg(stopped));
+    else if (kept->error.isEmpty())
+        tell(tr("Transfer %1; what arrived is in %2.").arg(stopped, kept->path));
+    else
+        tell(tr("Transfer %1; what arrived could not be kept in %2: %3.")
+                 .arg(stopped, kept->path, kept->error));
+}
+
+// What the session tells
+
+void MainWindowController::handleTransferStarted()
+{
+    _sinceFirstBytes.start();
+    _connectView->progressIndicatorSpin().stopAnimation();
+}
+
+void MainWindowController::handleTransferProgress(std::int32_t bytes)
+{
+    auto& bar = _connectView->progressIndicatorBar();
+    bar.setValue(std::min(bar.value() + bytes, bar.maximum()));
+    const auto received = static_cast<double>(_odoCom->odoData().size());
+    constexpr auto whole = static_cast<double>(OdoCom::wholeDump);
+    const auto left = static_cast<double>(_sinceFirstBytes.elapsed()) / 1000 * (whole - received) / received;
+    const auto percent = static_cast<int>(std::min(received / whole, 1.0) * 100);
+    const auto seconds = static_cast<qsizetype>(std::ceil(std::max(left, 0.0)));
+    _connectView->setState(
+        tr("Receiving, %1 %, %2 left").arg(percent).arg(counted(seconds, tr("1 second"), tr("%1 seconds"))));
+}
+
+void MainWindowController::handleTransferFinished()
+{
+    const auto dump = _odoCom->odoData();
+    endSession();
+    const auto import = _document.handleTransferFinished(dump, CalendarDate::now(),
+                                                         _isSimulated ? MyDocument::RawDump::isNotKept
+                                                                      : MyDocument::RawDump::asTheUserWants);
+    _document.undoManager().closeGroup();
+    _tourController.showNewestFirst();
+    _connectView->progressIndicatorBar().setValue(0);
+    tellMerged(import, tr("What arrived"));
+}
+
+void MainWindowController::handleTransferBrokenOff()
+{
+    const auto received = _odoCom->odoData();
+    endSession();
+    const auto reason = whyTransferBrokeOff(received.size(), OdoCom::wholeDump);
+    const auto kept = _isSimulated ? std::nullopt : keepStoppedDump(received);
+    if (kept && kept->error.isEmpty())
+        tell(tr("Broken off: %1; what arrived is in %2.").arg(reason, kept->path));
+    else
+        tell(tr("Broken off: %1.").arg(reason));
+}
+
+void MainWindowController::tellMerged(const MyDocument::Import& import, const QString& what)
+{
+    if (!import.refusal.isEmpty()) {
+        const auto refused = tr("%1 is no dump of the device: %2").arg(what, import.refusal);
+        tell(refused);
+        return;
+    }
+    const auto added =
+        counted(static_cast<qsizetype>(import.added), tr("1 tour added"), tr("%1 tours added"));
+    tell(tr("Finished: %1, %2 already there.").arg(added).arg(import.alreadyThere));
+}
+
+} // namespace ridelog

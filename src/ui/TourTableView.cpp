@@ -1,0 +1,179 @@
+#include "ui/TourTableView.h"
+
+#include "library/DefaultsKeys.h"
+#include "library/TourArrayController.h"
+#include "platform/Defaults.h"
+#include "ui/TourColumns.h"
+#include "ui/TourTableModel.h"
+
+#include <QDateTime>
+#include <QHeaderView>
+#include <QLocale>
+#include <QMenu>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+
+namespace ridelog {
+namespace {
+
+constexpr int titleWidth = 150;
+constexpr int columnMargin = 9; ///< beside a header's text, for the arrow of the order
+
+QString widestDate()
+{
+    return QLocale().toString(QDateTime(QDate(2008, 12, 28), QTime(20, 48, 48)), QLocale::ShortFormat);
+}
+
+} // namespace
+
+TourTableView::TourTableView(TourArrayController& controller, TourTableModel& model, Defaults& defaults,
+                             QWidget* parent)
+    : QTableView(parent), _controller(controller), _defaults(defaults)
+{
+    setModel(&model);
+    setAccessibleName(tr("Tours"));
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(EditKeyPressed);
+    setAlternatingRowColors(true);
+    setShowGrid(false);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+
+    auto& header = *horizontalHeader();
+    header.setSectionsMovable(true);
+    header.setHighlightSections(false);
+    header.setSortIndicatorShown(true);
+    header.setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&header, &QWidget::customContextMenuRequested, this, &TourTableView::askForColumns);
+    restoreColumns();
+    showOrder();
+    connect(&header, &QHeaderView::sortIndicatorChanged, &model, &TourTableModel::sort);
+    connect(&model, &QAbstractItemModel::modelReset, this, &TourTableView::showOrder);
+    connect(&model, &QAbstractItemModel::modelReset, this, &TourTableView::showSelection);
+    connect(&_controller, &TourArrayController::selectionChanged, this, &TourTableView::showSelection);
+    showSelection();
+}
+
+// Columns
+
+void TourTableView::restoreColumns()
+{
+    const auto stored = _defaults.valueForKey(DefaultsKeys::mainTableColumns).toByteArray();
+    if (stored.isEmpty() || !horizontalHeader()->restoreState(stored))
+        showColumnsAtFirst();
+    horizontalHeader()->setSectionsClickable(true);
+}
+
+void TourTableView::showColumnsAtFirst()
+{
+    const QFontMetrics metrics(font());
+    for (int column = 0; column < TourColumns::count(); ++column) {
+        const auto name = model()->headerData(column, Qt::Horizontal).toString();
+        const auto key = TourColumns::keyOf(column);
+        auto width = metrics.horizontalAdvance(name) + 2 * columnMargin;
+        if (key == TourKey::date)
+            width = std::max(width, metrics.horizontalAdvance(widestDate()) + columnMargin);
+        if (key == TourKey::type)
+            width = std::max(width, metrics.horizontalAdvance(QStringLiteral("Ski-Bike")) + 2 * columnMargin);
+        if (key == TourKey::title)
+            width = titleWidth;
+        setColumnWidth(column, width);
+        setColumnHidden(column, !TourColumns::isShownAtFirst(column));
+    }
+}
+
+void TourTableView::storeColumns() const
+{
+    _defaults.setValue(DefaultsKeys::mainTableColumns, horizontalHeader()->saveState());
+}
+
+void TourTableView::askForColumns(QPoint position)
+{
+    QMenu menu;
+    for (int column = 0; column < TourColumns::count(); ++column) {
+        auto* action = menu.addAction(model()->headerData(column, Qt::Horizontal).toString());
+        action->setCheckable(true);
+        action->setChecked(!isColumnHidden(column));
+        // Without any column there would be no header to ask for them again.
+        action->setEnabled(isColumnHidden(column) ||
+                           horizontalHeader()->hiddenSectionCount() + 1 < TourColumns::count());
+        connect(action, &QAction::toggled, this,
+                [this, column](bool shown) { setColumnHidden(column, !shown); });
+    }
+    menu.exec(horizontalHeader()->mapToGlobal(position));
+}
+
+void TourTableView::showOrder()
+{
+    const auto& descriptors = _controller.sortDescriptors();
+    const auto column = descriptors.empty() ? -1 : TourColumns::columnWithKey(descriptors.front().key);
+    const auto order =
+        !descriptors.empty() && descriptors.front().ascending ? Qt::AscendingOrder : Qt::DescendingOrder;
+    horizontalHeader()->setSortIndicator(column, order);
+}
+
+// Selection
+
+void TourTableView::showSelection()
+{
+    if (_isFollowing)
+        return;
+    const QScopedValueRollback following(_isFollowing, true);
+    const auto& rows = _controller.selectedRows();
+    // Rows that follow each other are selected as one range: there may be thousands.
+    QItemSelection selection;
+    for (std::size_t first = 0; first < rows.size();) {
+        auto last = first;
+        while (last + 1 < rows.size() && rows[last + 1] == rows[last] + 1)
+            ++last;
+        selection.select(model()->index(rows[first], 0),
+                         model()->index(rows[last], model()->columnCount() - 1));
+        first = last + 1;
+    }
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (!rows.empty() && !selectionModel()->isRowSelected(currentIndex().row()))
+        selectionModel()->setCurrentIndex(model()->index(rows.front(), 0), QItemSelectionModel::NoUpdate);
+}
+
+void TourTableView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+    QTableView::selectionChanged(selected, deselected);
+    if (_isFollowing)
+        return;
+    const QScopedValueRollback following(_isFollowing, true);
+    std::vector<int> rows;
+    for (const auto& range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.push_back(row);
+    }
+    _controller.selectRows(std::move(rows));
+}
+
+void TourTableView::scrollToSelection()
+{
+    if (!_controller.selectedRows().empty())
+        scrollTo(model()->index(_controller.selectedRows().front(), 0));
+}
+
+// Editing
+
+void TourTableView::editTitle()
+{
+    if (!_controller.selectedTour())
+        return;
+    const auto column = TourColumns::columnWithKey(TourKey::title);
+    setColumnHidden(column, false);
+    const auto title = model()->index(_controller.selectedRows().front(), column);
+    scrollTo(title);
+    setCurrentIndex(title);
+    edit(title);
+}
+
+} // namespace ridelog

@@ -1,0 +1,124 @@
+#pragma once
+
+#include "chart/ChartArrayView.h"
+#include "library/AppController.h"
+#include "library/DefaultsKeys.h"
+#include "platform/Defaults.h"
+#include "platform/MainThread.h"
+#include "simulator/RideGenerator.h"
+#include "tests/support/Events.h"
+#include "tests/support/TemporaryFolder.h"
+#include "ui/ApplicationWindows.h"
+#include "ui/ConnectView.h"
+#include "ui/MainWindowController.h"
+#include "ui/TourColumns.h"
+#include "ui/TourTableView.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace ridelog {
+
+/// The application with its own settings and home folder. It can be ended and started again.
+class Application : public testing::Test, protected TemporaryFolder {
+public:
+    Application() : home(qgetenv("HOME"))
+    {
+        qputenv("HOME", path("").toUtf8());
+        prepareMainThread();
+    }
+    ~Application() override
+    {
+        EXPECT_TRUE(answers.children().isEmpty()) << "a question was not asked";
+        end();
+        qputenv("HOME", home);
+    }
+
+protected:
+    void start(const QStringList& files = {})
+    {
+        defaults = std::make_unique<Defaults>(path("settings"));
+        defaults->setValue(DefaultsKeys::automaticCheck, false);
+        controller = std::make_unique<AppController>(*defaults);
+        windows = std::make_unique<ApplicationWindows>(*controller, *defaults);
+        windows->simulatedDevice().setSpeed(0);
+        windows->start(files);
+    }
+    void end()
+    {
+        windows.reset();
+        controller.reset();
+        defaults.reset();
+    }
+
+    MainWindowController& window() { return *windows->mainWindows().at(0); }
+    MyDocument& document() { return window().myDocument(); }
+    int rows() { return window().tableView().model()->rowCount(); }
+    QString cell(int row, const QString& key)
+    {
+        const auto* model = window().tableView().model();
+        return model->index(row, TourColumns::columnWithKey(key)).data().toString();
+    }
+    /// A made-up dump in a file.
+    QString dump(std::uint32_t seed = 1, int tours = 5)
+    {
+        return write("ride.odo", RideGenerator{.seed = seed, .tours = tours}.dump());
+    }
+    /// The action with this text, without its ampersand.
+    QAction* action(const QString& text)
+    {
+        for (auto* action : window().findChildren<QAction*>()) {
+            if (action->text().remove(u'&') == text)
+                return action;
+        }
+        ADD_FAILURE() << "no action " << qPrintable(text);
+        return nullptr;
+    }
+    /// Chooses it, as one event.
+    void trigger(const char* text)
+    {
+        if (auto* found = action(QString::fromUtf8(text)))
+            found->trigger();
+        QCoreApplication::processEvents();
+    }
+    /// Presses this button of the question that comes next.
+    void answer(const char* button)
+    {
+        auto* timer = new QTimer(&answers);
+        const auto press = [this, timer, wanted = QString::fromUtf8(button)] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box || timer->parent() == nullptr)
+                return;
+            timer->setParent(nullptr);
+            timer->deleteLater();
+            question = box->text() + u'\n' + box->informativeText();
+            for (auto* one : box->buttons()) {
+                if (one->text().remove(u'&') == wanted)
+                    return one->click();
+            }
+            ADD_FAILURE() << "no button " << qPrintable(wanted);
+            box->reject();
+        };
+        timer->callOnTimeout(press);
+        timer->start(5);
+    }
+
+    QByteArray home;
+    std::unique_ptr<Defaults> defaults;
+    std::unique_ptr<AppController> controller;
+    std::unique_ptr<ApplicationWindows> windows;
+    QString question; ///< that was answered last
+    QObject answers;  ///< those that are still to be given
+};
+
+} // namespace ridelog

@@ -1,0 +1,429 @@
+#include "simulator/DeviceSimulator.h"
+#include "tests/ui/Application.h"
+#include "ui/StartWindow.h"
+
+#include <QDockWidget>
+#include <QHeaderView>
+#include <QMimeData>
+#include <QScreen>
+#include <QStandardItemModel>
+
+namespace ridelog {
+namespace {
+
+class MainWindow : public Application {};
+
+TEST_F(MainWindow, TheFirstStartShowsAnEmptyDocumentAndHowToFillIt)
+{
+    start();
+    ASSERT_EQ(windows->mainWindows().size(), 1U);
+    EXPECT_FALSE(window().connectDrawer().isHidden());
+    EXPECT_FALSE(window().tableView().isVisible()) << "two buttons in its place";
+    EXPECT_TRUE(window().windowTitle().startsWith(QStringLiteral("Untitled")));
+    EXPECT_FALSE(window().isWindowModified());
+}
+
+TEST_F(MainWindow, AnImportShowsTheNewestTourAndCanBeTakenBack)
+{
+    start();
+    window().importDump(dump());
+    EXPECT_EQ(rows(), 5);
+    EXPECT_TRUE(window().tableView().isVisible());
+    EXPECT_EQ(window().tourController().selectedRows(), std::vector<int>{0});
+    EXPECT_EQ(window().message(), QStringLiteral("ride.odo: 5 tours added, 0 already there."));
+    EXPECT_EQ(window().chartView().dataProvider(), window().tourController().selectedTour());
+    EXPECT_TRUE(window().isWindowModified());
+    window().importDump(dump());
+    EXPECT_EQ(window().message(), QStringLiteral("ride.odo: 0 tours added, 5 already there."));
+
+    ASSERT_NE(action(QStringLiteral("Undo adding 5 tours")), nullptr);
+    trigger("Undo adding 5 tours");
+    EXPECT_EQ(rows(), 0);
+    EXPECT_FALSE(window().isWindowModified());
+    trigger("Redo adding 5 tours");
+    EXPECT_EQ(rows(), 5);
+
+    window().importDump(write("no.odo", "no dump"));
+    EXPECT_TRUE(window().message().startsWith(QStringLiteral("no.odo was not imported: ")));
+    EXPECT_EQ(rows(), 5);
+}
+
+TEST_F(MainWindow, OrderSelectionAndColumnsAreAsTheyWere)
+{
+    start();
+    window().importDump(dump());
+    ASSERT_EQ(controller->saveDocumentAs(document(), path("tours.ridelog")), std::nullopt);
+    auto& header = *window().tableView().horizontalHeader();
+    const auto distance = TourColumns::columnWithKey(TourKey::totalDistance);
+    const QPoint place(header.sectionViewportPosition(distance) + 20, header.height() / 2);
+    QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, place);
+    const auto& sorted = window().tourController().arrangedObjects();
+    EXPECT_TRUE(std::ranges::is_sorted(sorted, {}, [](const auto& tour) { return tour->totalDistance(); }));
+    QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, place);
+    EXPECT_TRUE(std::ranges::is_sorted(sorted, std::greater(),
+                                       [](const auto& tour) { return tour->totalDistance(); }));
+    window().tourController().selectRow(3);
+    const auto description = window().tourController().selectedTour()->description();
+    window().tableView().setColumnHidden(distance, true);
+    end();
+
+    start();
+    EXPECT_EQ(document().path(), path("tours.ridelog"));
+    EXPECT_EQ(window().tourController().selectedRows(), std::vector<int>{3});
+    EXPECT_EQ(window().tourController().selectedTour()->description(), description);
+    EXPECT_EQ(window().tourController().sortDescriptors().front(),
+              (SortDescriptor{TourKey::totalDistance, false}));
+    EXPECT_TRUE(window().tableView().isColumnHidden(distance));
+    // Several rows are nobody's choice of a tour.
+    const auto shown = window().chartView().dataProvider();
+    window().tourController().selectRows({0, 1});
+    EXPECT_EQ(window().chartView().dataProvider(), shown);
+    EXPECT_EQ(defaults->integerForKey(DefaultsKeys::selectedRow), 3);
+    EXPECT_EQ(window().tableView().selectionModel()->selectedRows().size(), 2);
+}
+
+TEST_F(MainWindow, ATitleIsEditedInPlaceAndTakesItsPlace)
+{
+    start();
+    window().importDump(dump());
+    auto& table = window().tableView();
+    window().tourController().setSortDescriptors({{TourKey::title, true}, {TourKey::date, true}});
+    window().tourController().selectRow(0);
+    const auto tour = window().tourController().selectedTour();
+    QTest::keyClick(&table, Qt::Key_F2);
+    trigger("Edit Title");
+    auto* field = table.findChild<QLineEdit*>();
+    ASSERT_NE(field, nullptr);
+    QTest::keyClicks(field, QStringLiteral("Over the pass"));
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_TRUE(eventually([&] { return window().tourController().rowOf(*tour) == 4; }));
+    EXPECT_EQ(cell(4, TourKey::title), QStringLiteral("Over the pass"));
+    EXPECT_EQ(window().tourController().selectedTour(), tour) << "it is still selected";
+    trigger("Undo change title");
+    EXPECT_EQ(tour->title(), OdoTour::untitled());
+}
+
+TEST_F(MainWindow, RemovedToursAreHiddenOrGreyAndComeBack)
+{
+    start();
+    window().importDump(dump());
+    const auto tour = window().tourController().selectedTour();
+    trigger("Remove Tour");
+    EXPECT_EQ(rows(), 4);
+    EXPECT_TRUE(tour->removed());
+    auto* show = action(QStringLiteral("Show Removed Tours"));
+    show->trigger();
+    EXPECT_EQ(rows(), 5);
+    const auto* model = window().tableView().model();
+    const auto row = window().tourController().rowOf(*tour);
+    EXPECT_TRUE(model->index(row, 0).data(Qt::ForegroundRole).isValid());
+    EXPECT_FALSE(model->index(row + 1, 0).data(Qt::ForegroundRole).isValid());
+    window().tourController().selectRow(row);
+    trigger("Restore Tour");
+    EXPECT_FALSE(tour->removed());
+    trigger("Undo tour removed");
+    trigger("Undo tour removed");
+    EXPECT_FALSE(tour->removed());
+    show->trigger();
+    EXPECT_EQ(rows(), 5);
+}
+
+TEST_F(MainWindow, TheSearchNarrowsTheTable)
+{
+    start();
+    window().importDump(dump());
+    window().tourController().arrangedObjects()[2]->setTitle(QStringLiteral("Große Runde"));
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    trigger("Find");
+    auto& field = window().searchField();
+    ASSERT_TRUE(field.hasFocus());
+    QTest::keyClicks(&field, QStringLiteral("GROSSE"));
+    EXPECT_EQ(rows(), 0);
+    field.clear();
+    QTest::keyClicks(&field, QStringLiteral("runde gro"));
+    EXPECT_EQ(rows(), 1) << "every word, in any order and case";
+    QTest::keyClick(&field, Qt::Key_Escape);
+    EXPECT_EQ(rows(), 5);
+    QTest::keyClicks(&field, document().toursArray()[0]->date().toString(QStringLiteral("yyyy-MM-dd")));
+    EXPECT_EQ(rows(), 1);
+}
+
+TEST_F(MainWindow, UnitsSwitchEverywhereAtOnce)
+{
+    start();
+    window().importDump(dump());
+    const auto kilometres = cell(0, TourKey::totalDistance);
+    EXPECT_TRUE(kilometres.endsWith(QStringLiteral("km")));
+    EXPECT_EQ(window().distanceField().text(), kilometres);
+    const auto chart = window().chartView().grab().toImage();
+    trigger("Miles, mph and Feet");
+    EXPECT_TRUE(cell(0, TourKey::totalDistance).endsWith(QStringLiteral("mi")));
+    EXPECT_EQ(window().distanceField().text(), cell(0, TourKey::totalDistance));
+    EXPECT_TRUE(window().speedField().text().endsWith(QStringLiteral("mph")));
+    const auto gain = TourColumns::columnWithKey(TourKey::elevationGain);
+    EXPECT_TRUE(window().tableView().model()->headerData(gain, Qt::Horizontal).toString().contains(u"(ft)"));
+    EXPECT_NE(window().chartView().grab().toImage(), chart);
+}
+
+TEST_F(MainWindow, ClosingAsksAboutUnsavedChanges)
+{
+    start();
+    window().importDump(dump());
+    ASSERT_EQ(controller->saveDocumentAs(document(), path("tours.ridelog")), std::nullopt);
+    trigger("Remove Tour");
+    answer("Cancel");
+    window().close();
+    EXPECT_TRUE(question.startsWith(QStringLiteral("Save the changes of tours.ridelog")));
+    ASSERT_EQ(windows->mainWindows().size(), 1U);
+    answer("Save");
+    window().close();
+    EXPECT_TRUE(eventually([&] { return windows->mainWindows().empty(); }));
+    EXPECT_TRUE(controller->documents().empty()) << "its file is free for others";
+
+    windows->openDocument(path("tours.ridelog"), nullptr);
+    EXPECT_EQ(rows(), 4);
+    action(QStringLiteral("Show Removed Tours"))->trigger();
+    window().tourController().selectRow(0);
+    trigger("Restore Tour");
+    answer("Don't Save");
+    window().close();
+    EXPECT_TRUE(eventually([&] { return windows->mainWindows().empty(); }));
+    windows->openDocument(path("tours.ridelog"), nullptr);
+    EXPECT_EQ(rows(), 4) << "as it was saved";
+}
+
+TEST_F(MainWindow, WhatOthersWroteIsNotOverwrittenUnasked)
+{
+    start();
+    window().importDump(dump());
+    ASSERT_EQ(controller->saveDocumentAs(document(), path("tours.ridelog")), std::nullopt);
+    const auto theirs = write("tours.ridelog", "theirs");
+    trigger("Remove Tour");
+    answer("Cancel");
+    EXPECT_FALSE(window().save());
+    EXPECT_EQ(read("tours.ridelog"), "theirs");
+    answer("Overwrite");
+    EXPECT_TRUE(window().save());
+    EXPECT_TRUE(MyDocument::isDocument(read("tours.ridelog")));
+    window().tourController().selectRow(0);
+    trigger("Remove Tour");
+    EXPECT_EQ(rows(), 3);
+    answer("Revert");
+    trigger("Revert");
+    EXPECT_EQ(rows(), 4);
+    EXPECT_FALSE(window().isWindowModified());
+}
+
+TEST_F(MainWindow, ADocumentThatIsGoneLeadsToTheStartWindow)
+{
+    start();
+    window().importDump(dump());
+    ASSERT_EQ(controller->saveDocumentAs(document(), path("tours.ridelog")), std::nullopt);
+    end();
+    ASSERT_TRUE(QFile::remove(path("tours.ridelog")));
+    start();
+    EXPECT_TRUE(windows->mainWindows().empty());
+    ASSERT_NE(windows->startWindow(), nullptr);
+    EXPECT_TRUE(
+        windows->startWindow()->message().contains(QStringLiteral("tours.ridelog could not be opened")));
+    for (auto* button : windows->startWindow()->findChildren<QAbstractButton*>()) {
+        if (button->text() == u"New")
+            button->click();
+    }
+    ASSERT_EQ(windows->mainWindows().size(), 1U);
+    EXPECT_TRUE(eventually([&] { return windows->startWindow() == nullptr; }));
+}
+
+TEST_F(MainWindow, FilesThatAreGivenOrDroppedAreOpenedOrImported)
+{
+    start({dump()});
+    EXPECT_EQ(rows(), 5);
+    ASSERT_EQ(controller->saveDocumentAs(document(), path("tours.ridelog")), std::nullopt);
+    end();
+    start({path("tours.ridelog")});
+    EXPECT_EQ(rows(), 5);
+    windows->takeFiles({path("tours.ridelog")});
+    EXPECT_EQ(windows->mainWindows().size(), 1U) << "it is open already";
+
+    QMimeData dropped;
+    dropped.setUrls({QUrl::fromLocalFile(dump(7))});
+    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window(), &drop);
+    EXPECT_EQ(rows(), 10);
+}
+
+TEST_F(MainWindow, SettingsThatMakeNoSenseAreNoObstacle)
+{
+    start({dump()});
+    ASSERT_EQ(controller->saveDocumentAs(document(), path("tours.ridelog")), std::nullopt);
+    window().setGeometry(90'000, 90'000, 800, 600);
+    end();
+    {
+        Defaults odd(path("settings"));
+        odd.setValue(DefaultsKeys::selectedRow, 4'000'000);
+        odd.setValue(DefaultsKeys::sortDesc, QStringLiteral("tomorrow:sideways"));
+        odd.setValue(DefaultsKeys::mainTableColumns, QByteArray("no columns"));
+        odd.setValue(DefaultsKeys::mainWindowState, QByteArray("no state"));
+        odd.setValue(DefaultsKeys::mainSplitter, 12);
+    }
+    start();
+    EXPECT_EQ(window().tourController().selectedRows(), std::vector<int>{4}) << "the last one";
+    EXPECT_EQ(window().tourController().sortDescriptors(), newestFirst());
+    EXPECT_TRUE(window().screen()->availableGeometry().intersects(window().frameGeometry()));
+}
+
+TEST_F(MainWindow, SaysWhetherThereIsANewerVersion)
+{
+    start();
+    const auto description = [this](const char* version) {
+        return QUrl::fromLocalFile(
+                   write("newest.xml", "<r><application><name>ridelog</name><version>" + QByteArray(version) +
+                                           "</version><description language=\"en\">Faster hills"
+                                           "</description></application></r>"))
+            .toString();
+    };
+    const auto checked = [this] { return !question.isEmpty(); };
+    windows->setUpdateUrl(description("99.0"));
+    answer("Ok");
+    trigger("Check for Updates…");
+    ASSERT_TRUE(eventually(checked));
+    EXPECT_EQ(question, QStringLiteral("New version found\nFaster hills"));
+    EXPECT_TRUE(defaults->dateForKey(DefaultsKeys::checkedForUpdateOn).has_value());
+
+    question.clear();
+    windows->setUpdateUrl(QUrl::fromLocalFile(path("none.xml")).toString());
+    answer("Ok");
+    trigger("Check for Updates…");
+    ASSERT_TRUE(eventually(checked));
+    EXPECT_EQ(question, QStringLiteral("No new version found\nNo new version available."));
+    EXPECT_TRUE(window().message().startsWith(QStringLiteral("Newer versions could not be looked for")));
+
+    // By itself it asks only now and then, and only if there is something to say.
+    question.clear();
+    windows->setUpdateUrl(description("99.0"));
+    defaults->setValue(DefaultsKeys::automaticCheck, true);
+    controller->newDocument();
+    defaults->setValue(DefaultsKeys::checkedForUpdateOn, QDateTime::currentDateTime().addDays(-8));
+    answer("Ok");
+    controller->newDocument();
+    ASSERT_TRUE(eventually(checked));
+}
+
+// The transfer
+
+class Transfer : public Application {
+protected:
+    void SetUp() override
+    {
+        qputenv("RIDELOG_PORTS", {});
+        start();
+    }
+    void plugIn()
+    {
+        trigger("Simulated Device");
+        ASSERT_TRUE(windows->simulatedDevice().isPluggedIn());
+        ASSERT_EQ(window().connectView().selectedPort(), windows->simulatedDevice().path());
+    }
+    bool ends()
+    {
+        return eventually([this] { return !window().isConnected(); });
+    }
+};
+
+TEST_F(Transfer, BringsTheToursOfTheDevice)
+{
+    DeviceSimulator device({.dump = RideGenerator().dump(), .speed = 0});
+    ASSERT_EQ(device.start(), std::nullopt);
+    window().connectView().portsPopUp().addItem(device.path(), device.path());
+    window().connectView().selectPort(device.path());
+    trigger("Start Transfer");
+    EXPECT_TRUE(window().isConnected());
+    EXPECT_EQ(window().connectView().state(), QStringLiteral("Waiting for the device…"));
+    ASSERT_TRUE(ends());
+    EXPECT_EQ(rows(), 8);
+    EXPECT_EQ(window().message(), QStringLiteral("Finished: 8 tours added, 0 already there."));
+    EXPECT_EQ(read("odoData.odo").size(), 81'930);
+    EXPECT_EQ(document().undoManager().undoActionName(), QStringLiteral("adding 8 tours"));
+    trigger("Start Transfer");
+    ASSERT_TRUE(ends());
+    EXPECT_EQ(window().message(), QStringLiteral("Finished: 0 tours added, 8 already there."));
+}
+
+TEST_F(Transfer, KeepsWhatArrivedWhenItIsStoppedOrUnplugged)
+{
+    for (const bool isStopped : {true, false}) {
+        DeviceSimulator device({.dump = RideGenerator().dump(), .speed = 20});
+        ASSERT_EQ(device.start(), std::nullopt);
+        window().connectView().portsPopUp().addItem(device.path(), device.path());
+        window().connectView().selectPort(device.path());
+        trigger("Start Transfer");
+        ASSERT_TRUE(eventually([&] { return window().connectView().state().startsWith(u"Receiving"); }));
+        if (isStopped)
+            trigger("Stop Transfer");
+        else
+            device.stop();
+        ASSERT_TRUE(ends());
+        EXPECT_TRUE(window().message().contains(path("odoData.odo.tmp"))) << qPrintable(window().message());
+        EXPECT_GT(read("odoData.odo.tmp").size(), 0);
+        EXPECT_TRUE(QFile::remove(path("odoData.odo.tmp")));
+        EXPECT_EQ(rows(), 0);
+    }
+}
+
+TEST_F(Transfer, MadeUpRidesTakeNoRealDumpsPlace)
+{
+    plugIn();
+    trigger("Start Transfer");
+    ASSERT_TRUE(ends());
+    EXPECT_EQ(rows(), 8);
+    windows->simulatedDevice().setSpeed(20);
+    trigger("Simulated Device");
+    plugIn();
+    trigger("Start Transfer");
+    ASSERT_TRUE(eventually([&] { return window().connectView().state().startsWith(u"Receiving"); }));
+    trigger("Simulated Device");
+    ASSERT_TRUE(ends());
+    EXPECT_TRUE(window().message().startsWith(QStringLiteral("Broken off")))
+        << qPrintable(window().message());
+    EXPECT_EQ(names().filter(QStringLiteral("odoData")), QStringList());
+}
+
+TEST_F(Transfer, SaysWhyAPortCannotBeOpened)
+{
+    window().connectView().portsPopUp().addItem(path("none"), path("none"));
+    window().connectView().selectPort(path("none"));
+    window().startTransfer();
+    EXPECT_TRUE(window().connectView().state().contains(QStringLiteral("there is no such port")));
+    EXPECT_TRUE(window().isConnected()) << "until the rider lets go";
+    QTest::mouseClick(&window().connectView().connectButton(), Qt::LeftButton);
+    EXPECT_FALSE(window().isConnected());
+    EXPECT_FALSE(QFile::exists(path("odoData.odo.tmp")));
+}
+
+TEST_F(Transfer, TheDrawerIsAsItWasAndKnowsItsPort)
+{
+    window().close();
+    QCoreApplication::processEvents();
+    end();
+    start();
+    EXPECT_FALSE(window().connectDrawer().isHidden()) << "nobody has closed it but with its window";
+    plugIn();
+    const auto port = windows->simulatedDevice().path();
+    trigger("Connect Drawer");
+    EXPECT_TRUE(window().connectDrawer().isHidden());
+    EXPECT_FALSE(defaults->boolForKey(DefaultsKeys::drawerOpen));
+    EXPECT_EQ(defaults->textForKey(DefaultsKeys::selectedInterfacePort), port);
+    trigger("Connect Drawer");
+    EXPECT_EQ(window().connectView().selectedPort(), port);
+    trigger("Connect Drawer");
+    end();
+    start();
+    EXPECT_TRUE(window().connectDrawer().isHidden());
+}
+
+} // namespace
+} // namespace ridelog
