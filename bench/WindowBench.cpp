@@ -1,0 +1,179 @@
+// How long the application takes from its start until the main window of a document of 1,000 tours is
+// painted, against a program that shows an empty window; and how fast a table of 10,000 tours is sorted and
+// follows the selection. Each start is a process of its own, which this program starts of itself.
+
+#include "chart/ChartArrayView.h"
+#include "library/AppController.h"
+#include "library/TourSorting.h"
+#include "platform/Defaults.h"
+#include "platform/Log.h"
+#include "platform/MainThread.h"
+#include "simulator/RideGenerator.h"
+#include "ui/ApplicationWindows.h"
+#include "ui/MainWindowController.h"
+#include "ui/TourColumns.h"
+#include "ui/TourTableView.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMainWindow>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTimeZone>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <vector>
+
+namespace {
+
+using namespace ridelog;
+
+constexpr double promisedRatio = 2;
+constexpr double promisedSort = 100;     ///< milliseconds
+constexpr double promisedSelection = 16; ///< milliseconds
+constexpr int starts = 15;
+
+/// Ends the program when the window has been painted: at once, what comes at an orderly end is not measured.
+class EndsWhenPainted : public QObject {
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            QMetaObject::invokeMethod(
+                qApp, [] { std::_Exit(0); }, Qt::QueuedConnection);
+        return false;
+    }
+};
+
+int showEmptyWindow()
+{
+    QMainWindow window;
+    EndsWhenPainted end;
+    window.installEventFilter(&end);
+    window.resize(1280, 820);
+    window.show();
+    return QApplication::exec();
+}
+
+int showDocument(const QString& path, const QString& settings)
+{
+    prepareMainThread();
+    Defaults defaults(settings);
+    AppController controller(defaults);
+    ApplicationWindows windows(controller, defaults);
+    windows.start({path});
+    EndsWhenPainted end;
+    windows.mainWindows().at(0)->chartView().installEventFilter(&end);
+    return QApplication::exec();
+}
+
+double median(std::vector<double> values)
+{
+    std::ranges::sort(values);
+    return values[values.size() / 2];
+}
+
+double millisecondsOf(const QStringList& words)
+{
+    QElapsedTimer timer;
+    timer.start();
+    if (QProcess::execute(QCoreApplication::applicationFilePath(), words) != 0)
+        std::exit(2);
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+/// A document of as many tours, 250 in a year.
+void makeDocument(const QString& path, int tours)
+{
+    MyDocument document;
+    constexpr int inAYear = 250;
+    for (int year = 0; year < tours / inAYear; ++year) {
+        const RideGenerator rides{.seed = static_cast<std::uint32_t>(year), .tours = inAYear};
+        const QDateTime now(QDate(1970 + year, 12, 31), QTime(12, 0), QTimeZone::utc());
+        document.handleTransferFinished(rides.dump(), now);
+    }
+    if (const auto error = document.saveAs(path))
+        std::exit(2);
+}
+
+bool keepsStartPromise(const QTemporaryDir& folder)
+{
+    const auto path = folder.filePath(QStringLiteral("tours.ridelog"));
+    makeDocument(path, 1000);
+    std::vector<double> ours;
+    std::vector<double> empty;
+    for (int i = 0; i < starts; ++i) {
+        empty.push_back(millisecondsOf({QStringLiteral("--empty")}));
+        ours.push_back(millisecondsOf(
+            {QStringLiteral("--document"), path, folder.filePath(QStringLiteral("settings"))}));
+    }
+    const auto ratio = median(ours) / median(empty);
+    std::printf("window with 1,000 tours %.1f ms, empty window %.1f ms: %.2f x (at most %.2f)\n",
+                median(ours), median(empty), ratio, promisedRatio);
+    return ratio <= promisedRatio;
+}
+
+template <typename Action>
+double milliseconds(Action&& action)
+{
+    QElapsedTimer timer;
+    timer.start();
+    action();
+    // Until it can be seen.
+    QCoreApplication::processEvents();
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+bool keepsTablePromises(const QTemporaryDir& folder)
+{
+    const auto path = folder.filePath(QStringLiteral("large.ridelog"));
+    makeDocument(path, 10'000);
+    Defaults defaults(folder.filePath(QStringLiteral("settings")));
+    AppController controller(defaults);
+    ApplicationWindows windows(controller, defaults);
+    windows.start({path});
+    auto& window = *windows.mainWindows().at(0);
+    QCoreApplication::processEvents();
+
+    double slowest = 0;
+    for (int column = 0; column < TourColumns::count(); ++column) {
+        // Summary values are computed when they are first asked for.
+        std::vector<double> times;
+        for (const auto order : {Qt::AscendingOrder, Qt::DescendingOrder, Qt::AscendingOrder})
+            times.push_back(milliseconds([&] { window.tableView().model()->sort(column, order); }));
+        std::printf("sort by %s: first %.1f ms, then %.1f ms\n", qPrintable(TourColumns::keyOf(column)),
+                    times[0], median(times));
+        slowest = std::max(slowest, *std::ranges::max_element(times));
+    }
+    constexpr int selectionCount = 500;
+    std::vector<double> selections;
+    selections.reserve(selectionCount);
+    for (int row = 0; row < selectionCount; ++row)
+        selections.push_back(milliseconds([&] { window.tourController().selectRow(row * 19 % 10'000); }));
+    const auto selection = *std::ranges::max_element(selections);
+    std::printf("10,000 tours: slowest sort %.1f ms (at most %.0f), selection %.1f ms, slowest %.1f ms (at "
+                "most %.0f)\n",
+                slowest, promisedSort, median(selections), selection, promisedSelection);
+    return slowest <= promisedSort && median(selections) <= promisedSelection;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    setLogLevel(LogLevel::none);
+    QApplication application(argc, argv);
+    const auto words = QCoreApplication::arguments();
+    if (words.value(1) == u"--empty")
+        return showEmptyWindow();
+    if (words.value(1) == u"--document")
+        return showDocument(words.value(2), words.value(3));
+    const QTemporaryDir folder;
+    const bool startIsKept = keepsStartPromise(folder);
+    const bool tableIsKept = keepsTablePromises(folder);
+    return startIsKept && tableIsKept ? 0 : 1;
+}
