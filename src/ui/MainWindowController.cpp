@@ -112,6 +112,9 @@ MainWindowController::~MainWindowController()
 {
     endSession();
     storeWindow();
+    // They speak to this window and to its list for as long as they live.
+    delete _connectDrawer;
+    delete _splitter;
 }
 
 // Set-up
