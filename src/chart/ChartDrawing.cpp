@@ -41,7 +41,7 @@ struct XLabel {
     float right() const { return left + static_cast<float>(size.width()); }
 };
 
-/// Each how manieth label can be drawn so that there is room between them.
+/// Of so many labels one is drawn, so that there is room between them.
 std::size_t labelStep(const std::vector<XLabel>& labels)
 {
     std::size_t step = 1;

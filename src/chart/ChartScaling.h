@@ -74,7 +74,6 @@ public:
 
     float chartOffsetX() const { return _chartOffsetX; }          ///< left margin
     float secondChartOffsetX() const { return _2ndChartOffsetX; } ///< right margin
-    float chartOffsetY() const { return _chartOffsetY; }          ///< bottom margin
     bool draw2ndAxis() const { return _draw2ndAxis; }
     float xFactor() const { return _xFactor; } ///< view units for one data unit; 0 without extent
     float maxXAxisValue() const { return _maxXAxisValue; }

@@ -1,6 +1,5 @@
 #include "cli/DocumentChange.h"
 
-#include "cli/TourSource.h"
 #include "decode/OdoData.h"
 
 namespace ridelog {
@@ -8,7 +7,7 @@ namespace {
 
 bool isDump(const QString& path, const QDateTime& now)
 {
-    return !TourSource::holdsDocument(path) && OdoData::initWithFile(path, now).refusal().isEmpty();
+    return !MyDocument::isDocumentFile(path) && OdoData::initWithFile(path, now).refusal().isEmpty();
 }
 
 } // namespace

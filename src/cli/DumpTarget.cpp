@@ -1,6 +1,6 @@
 #include "cli/DumpTarget.h"
 
-#include "cli/TourSource.h"
+#include "library/MyDocument.h"
 #include "platform/WholeFile.h"
 
 #include <QFileInfo>
@@ -24,7 +24,7 @@ std::optional<QString> whyNotWritable(const QString& path)
 
 std::optional<QString> whyNoDumpTarget(const QString& path)
 {
-    if (TourSource::holdsDocument(path))
+    if (MyDocument::isDocumentFile(path))
         return QStringLiteral("a document, which a raw dump would replace");
     return whyNotWritable(path);
 }

@@ -1,8 +1,8 @@
 #include "cli/ImportCommand.h"
 
 #include "cli/DocumentChange.h"
-#include "cli/TourSource.h"
 #include "cli/Wording.h"
+#include "library/MyDocument.h"
 #include "platform/JsonWriter.h"
 
 #include <QCommandLineParser>
@@ -47,7 +47,7 @@ std::optional<ExitStatus> importAll(MyDocument& document, const QStringList& dum
                                     std::vector<Merged>& merged)
 {
     for (const auto& dump : dumps) {
-        if (TourSource::holdsDocument(dump))
+        if (MyDocument::isDocumentFile(dump))
             return refuse(dump, QStringLiteral("a document, not a raw dump"));
         const auto import = document.importFile(dump, now);
         if (!import.refusal.isEmpty())

@@ -1,7 +1,7 @@
 #include "cli/MakeDumpCommand.h"
 
 #include "cli/DumpTarget.h"
-#include "cli/TourSource.h"
+#include "library/MyDocument.h"
 #include "platform/WholeFile.h"
 #include "simulator/RideGenerator.h"
 
@@ -62,7 +62,7 @@ ExitStatus MakeDumpCommand::execute(const CommandContext& context) const
     if (path.isEmpty())
         return wrongWords(*this, QStringLiteral("-o is missing: the file to write"));
 
-    if (TourSource::holdsDocument(path))
+    if (MyDocument::isDocumentFile(path))
         return refuse(path, *whyNoDumpTarget(path));
     if (const auto error = writeWholeFile(path, generator.dump()))
         return fail(path, *error);

@@ -4,9 +4,9 @@
 #include "cli/DumpTarget.h"
 #include "cli/Reception.h"
 #include "cli/StopSignals.h"
-#include "cli/TourSource.h"
 #include "cli/Wording.h"
 #include "decode/OdoData.h"
+#include "library/MyDocument.h"
 #include "library/RawDump.h"
 #include "platform/WholeFile.h"
 
@@ -28,7 +28,7 @@ const QString timeoutName = QStringLiteral("timeout");
 std::optional<ExitStatus> refuseBeforehand(const QString& output, const QString& into)
 {
     if (!output.isEmpty()) {
-        if (TourSource::holdsDocument(output))
+        if (MyDocument::isDocumentFile(output))
             return refuse(output, *whyNoDumpTarget(output));
         if (const auto reason = whyNotWritable(output))
             return fail(output, *reason);

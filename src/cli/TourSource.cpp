@@ -3,14 +3,8 @@
 #include "decode/OdoData.h"
 #include "library/MyDocument.h"
 
-#include <QFile>
-#include <QFileInfo>
-
 namespace ridelog {
 namespace {
-
-/// Enough of a file to tell what it is.
-constexpr qint64 firstBytes = 64;
 
 std::vector<std::pair<QString, std::int32_t>> inOrderOfTheDevice(GeneralData numbers)
 {
@@ -50,16 +44,7 @@ TourSource readDump(const QString& path, const QDateTime& now)
 
 TourSource TourSource::read(const QString& path, const QDateTime& now)
 {
-    return holdsDocument(path) ? readDocument(path, now) : readDump(path, now);
-}
-
-bool TourSource::holdsDocument(const QString& path)
-{
-    // Opening a pipe or a device could wait for ever.
-    if (!QFileInfo(path).isFile())
-        return false;
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) && MyDocument::isDocument(file.read(firstBytes));
+    return MyDocument::isDocumentFile(path) ? readDocument(path, now) : readDump(path, now);
 }
 
 } // namespace ridelog

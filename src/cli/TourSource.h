@@ -24,9 +24,6 @@ struct TourSource {
     /// Reads a file; its content tells what it is. A document may be open elsewhere meanwhile. Tours that
     /// have no year get it from `now`.
     static TourSource read(const QString& path, const QDateTime& now);
-
-    /// Whether the file begins as a document does. False as well where there is no such file.
-    static bool holdsDocument(const QString& path);
 };
 
 } // namespace ridelog

@@ -5,6 +5,9 @@
 #include "platform/TypedStreamReader.h"
 #include "platform/TypedStreamWriter.h"
 
+#include <QFile>
+#include <QFileInfo>
+
 #include <utility>
 
 namespace ridelog {
@@ -140,6 +143,16 @@ void MyDocument::setStoredGeneralData(StoredGeneralData generalData)
 bool MyDocument::isDocument(QByteArrayView firstBytes)
 {
     return TypedStreamReader::isTypedStream(firstBytes);
+}
+
+bool MyDocument::isDocumentFile(const QString& path)
+{
+    constexpr qint64 enoughToTell = 64;
+    // Opening a pipe or a device could wait for ever.
+    if (!QFileInfo(path).isFile())
+        return false;
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && isDocument(file.read(enoughToTell));
 }
 
 QByteArray MyDocument::dataRepresentationOfType(const QString& /*type*/) const

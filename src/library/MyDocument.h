@@ -63,6 +63,8 @@ public:
 
     /// Whether these are the first bytes of a document, of this program or an older one.
     static bool isDocument(QByteArrayView firstBytes);
+    /// Whether a file begins as one. False as well where there is no such file.
+    static bool isDocumentFile(const QString& path);
 
     // Its file
 

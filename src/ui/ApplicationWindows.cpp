@@ -5,7 +5,6 @@
 #include "ui/MainWindowController.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 
@@ -13,8 +12,6 @@
 
 namespace ridelog {
 namespace {
-
-constexpr qint64 enoughToTell = 64;
 
 /// A new document that nobody has done anything with.
 bool isUntouched(const MyDocument& document)
@@ -86,13 +83,6 @@ void ApplicationWindows::bringToFront(QWidget& window)
 
 // Opening
 
-bool ApplicationWindows::holdsDocument(const QString& path)
-{
-    QFile file(path);
-    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) &&
-           MyDocument::isDocument(file.read(enoughToTell));
-}
-
 void ApplicationWindows::start(const QStringList& paths)
 {
     if (!paths.isEmpty())
@@ -107,7 +97,7 @@ void ApplicationWindows::takeFiles(const QStringList& paths)
 {
     QStringList dumps;
     for (const auto& path : paths) {
-        if (holdsDocument(path) || !QFileInfo(path).isFile())
+        if (MyDocument::isDocumentFile(path) || !QFileInfo(path).isFile())
             openDocument(path, windowInFront());
         else
             dumps << path;
@@ -143,7 +133,7 @@ void ApplicationWindows::askForDocument(QWidget* over)
     panel->setFileMode(QFileDialog::ExistingFile);
     panel->setNameFilters({tr("Tours (*.%1)").arg(MyDocument::extension), tr("All files (*)")});
     connect(panel, &QFileDialog::fileSelected, this, [this, over = QPointer(over)](const QString& path) {
-        if (holdsDocument(path) || !qobject_cast<MainWindowController*>(over))
+        if (MyDocument::isDocumentFile(path) || !qobject_cast<MainWindowController*>(over))
             openDocument(path, over);
         else
             qobject_cast<MainWindowController*>(over)->importDump(path);

@@ -56,8 +56,6 @@ public:
     /// Closes all windows, as far as the user lets them.
     void quit();
 
-    /// Whether the file begins as a document does.
-    static bool holdsDocument(const QString& path);
     static void bringToFront(QWidget& window);
 
 private:

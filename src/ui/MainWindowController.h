@@ -137,7 +137,7 @@ private:
 
     // The transfer
     void connectToOdo(bool connected);
-    bool openPort();
+    void openPort();
     void endSession();
     void setConnected(bool connected);
     void drawerDidChange();

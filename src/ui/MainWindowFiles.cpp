@@ -51,7 +51,7 @@ void MainWindowController::openDocument()
 
 void MainWindowController::takeFile(const QString& path)
 {
-    if (ApplicationWindows::holdsDocument(path))
+    if (MyDocument::isDocumentFile(path))
         _windows.openDocument(path, this);
     else
         importDump(path);

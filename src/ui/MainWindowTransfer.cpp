@@ -91,7 +91,7 @@ void MainWindowController::connectToOdo(bool connected)
 }
 
 /// Where the port cannot be had the spinner goes on until the user lets go, and the line says why.
-bool MainWindowController::openPort()
+void MainWindowController::openPort()
 {
     const auto port = _connectView->selectedPort();
     if (!port.isEmpty())
@@ -99,14 +99,12 @@ bool MainWindowController::openPort()
     _isSimulated = !port.isEmpty() && port == _windows.simulatedDevice().path();
     _odoCom = std::make_unique<OdoCom>(port, stopBitsFrom(_defaults));
     _odoCom->setDelegate(this);
-    const bool isOpen = _odoCom->startReading();
-    if (isOpen)
+    if (_odoCom->startReading())
         tell(tr("Waiting for the device…"));
     else if (port.isEmpty())
         tell(tr("There is no serial port. Plug in the device's cable, or choose Device > Simulated Device."));
     else
         tell(tr("Cannot open %1: %2.").arg(port, whyPortFailed(port, _odoCom->openError())));
-    return isOpen;
 }
 
 void MainWindowController::endSession()
