@@ -173,11 +173,8 @@ void MainWindowController::restoreWindow()
     _splitter->restoreState(_defaults.valueForKey(DefaultsKeys::mainSplitter).toByteArray());
     _connectDrawer->setVisible(_defaults.boolForKey(DefaultsKeys::drawerOpen));
     _transferButton->setChecked(!_connectDrawer->isHidden());
-    if (!_connectDrawer->isHidden()) {
-        _connectView->refreshPorts();
-        _connectView->selectPort(
-            _defaults.textForKey(DefaultsKeys::selectedInterfacePort).value_or(QString()));
-    }
+    if (!_connectDrawer->isHidden())
+        fillPorts();
     connect(_connectDrawer->toggleViewAction(), &QAction::toggled, this,
             &MainWindowController::drawerDidChange);
 }

@@ -140,6 +140,7 @@ private:
     void openPort();
     void endSession();
     void setConnected(bool connected);
+    void fillPorts();
     void drawerDidChange();
     void handleTransferStarted() override;
     bool handlesTransferProgress() const override { return true; }

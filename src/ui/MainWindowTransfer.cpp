@@ -32,13 +32,21 @@ OdoCom::StopBits stopBitsFrom(const Defaults& defaults)
 
 // The drawer
 
+/// With the port of the last time, but for who has just plugged in the simulated device.
+void MainWindowController::fillPorts()
+{
+    _connectView->refreshPorts();
+    const auto& simulated = _windows.simulatedDevice();
+    _connectView->selectPort(
+        simulated.isPluggedIn()
+            ? simulated.path()
+            : _defaults.textForKey(DefaultsKeys::selectedInterfacePort).value_or(QString()));
+}
+
 void MainWindowController::toggleConnectDrawer()
 {
-    if (_connectDrawer->isHidden()) {
-        _connectView->refreshPorts();
-        _connectView->selectPort(
-            _defaults.textForKey(DefaultsKeys::selectedInterfacePort).value_or(QString()));
-    }
+    if (_connectDrawer->isHidden())
+        fillPorts();
     _connectDrawer->setVisible(_connectDrawer->isHidden());
 }
 

@@ -423,6 +423,11 @@ TEST_F(Transfer, TheDrawerIsAsItWasAndKnowsItsPort)
     end();
     start();
     EXPECT_TRUE(window().connectDrawer().isHidden());
+    trigger("Connect Drawer");
+    window().connectView().portsPopUp().addItem(path("first"), path("first"));
+    EXPECT_EQ(windows->simulatedDevice().plugIn(), std::nullopt);
+    controller->newDocument();
+    EXPECT_EQ(windows->mainWindows().back()->connectView().selectedPort(), windows->simulatedDevice().path());
 }
 
 } // namespace
