@@ -26,8 +26,7 @@ void UndoManager::add(Registration registration)
             // Comes back here when the event that registers is through, whichever it was.
             QMetaObject::invokeMethod(this, &UndoManager::closeGroup, Qt::QueuedConnection);
         }
-        if (_group.actions.empty() || isClean())
-            _state = ++_lastState;
+        _state = ++_lastState;
     }
     _group.actions.push_back(std::move(registration));
     tell();
@@ -146,10 +145,19 @@ void UndoManager::setClean()
     tell();
 }
 
+void UndoManager::setUnclean()
+{
+    closeGroup();
+    _state = ++_lastState;
+    tell();
+}
+
 void UndoManager::tell()
 {
     if (_running)
         return;
+    if (std::exchange(_toldState, _state) != _state)
+        Q_EMIT stateChanged();
     if (isClean() != _toldClean) {
         _toldClean = isClean();
         Q_EMIT cleanChanged(_toldClean);

@@ -78,8 +78,17 @@ public:
     /// since, or all of it was taken back. Once new registrations have cut off the way back, only setClean
     /// makes it true again.
     bool isClean() const { return _state == _cleanState; }
+    /// The document is not as it was saved, and no step leads back to where it was: only setClean makes it
+    /// clean again.
+    void setUnclean();
+
+    /// The state of the document: a number that no other state of its life has.
+    using State = quint64;
+    State state() const { return _state; }
 
 Q_SIGNALS:
+    /// Something was registered, which may come before it is done, or a step was run.
+    void stateChanged();
     /// One of canUndo, canRedo and the two names is another than before.
     void changed();
     void cleanChanged(bool clean);
@@ -89,8 +98,6 @@ private:
         Action undo;
         Action redo; ///< none: the redo is what `undo` registers
     };
-    /// The state of the document is a number that no other state of its life has.
-    using State = quint64;
     struct Step {
         QString name;
         std::vector<Registration> actions;
@@ -121,6 +128,7 @@ private:
     State _lastState = 0; ///< highest number given to a state
     State _cleanState = 0;
     Shown _told;
+    State _toldState = 0;
     bool _toldClean = true;
 };
 

@@ -231,6 +231,28 @@ TEST_F(UndoManagerTest, CleanIsTheSavedStateAndNoOther)
     EXPECT_FALSE(undo.isClean());
     undo.redo();
     EXPECT_FALSE(undo.isClean()) << "as many steps from the start as the saved state, yet another one";
+    undo.setClean();
+    undo.setUnclean();
+    set(0, 1);
+    undo.undo();
+    EXPECT_FALSE(undo.isClean()) << "no step leads there";
+}
+
+TEST_F(UndoManagerTest, EachRegistrationAndStepTellsAnotherState)
+{
+    std::vector<UndoManager::State> told;
+    QObject::connect(&undo, &UndoManager::stateChanged, [&] { told.push_back(undo.state()); });
+    const auto saved = undo.state();
+    undo.beginGroup();
+    set(0, 1);
+    set(0, 2);
+    undo.endGroup();
+    EXPECT_TRUE(undo.undo());
+    EXPECT_TRUE(undo.redo());
+    ASSERT_EQ(told.size(), 4U);
+    EXPECT_NE(told[0], told[1]) << "also within a step, which may take several events";
+    EXPECT_EQ(told[2], saved);
+    EXPECT_EQ(told[3], told[1]);
 }
 
 TEST_F(UndoManagerTest, SavingWithinAGroup)
