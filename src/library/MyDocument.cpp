@@ -44,6 +44,16 @@ void writeEntries(TypedStreamWriter& writer, const std::vector<std::pair<QString
     }
 }
 
+void encode(const std::shared_ptr<OdoTour>& tour, TypedStreamWriter& writer)
+{
+    tour->encodeWithCoder(writer);
+}
+
+void encode(const StoredTour& tour, TypedStreamWriter& writer)
+{
+    tour.encodeWithCoder(writer);
+}
+
 } // namespace
 
 /// What a file holds, before a document takes it over.
@@ -164,23 +174,42 @@ QByteArray MyDocument::dataRepresentationOfType(const QString& /*type*/) const
 
 void MyDocument::write(const ByteSink& sink) const
 {
+    write(sink, _generalData, _toursArray, _otherEntries);
+}
+
+ByteSource MyDocument::storedForm() const
+{
+    std::vector<StoredTour> tours;
+    tours.reserve(_toursArray.size());
+    for (const auto& tour : _toursArray)
+        tours.push_back(tour->stored());
+    return [generalData = _generalData, otherEntries = _otherEntries,
+            tours = std::make_shared<const std::vector<StoredTour>>(std::move(tours))](const ByteSink& sink) {
+        write(sink, generalData, *tours, otherEntries);
+    };
+}
+
+template <typename Tour>
+void MyDocument::write(const ByteSink& sink, const StoredGeneralData& generalData,
+                       const std::vector<Tour>& tours, const KeptEntries& otherEntries)
+{
     TypedStreamWriter writer;
-    writer.beginDictionary(2 + static_cast<qsizetype>(_otherEntries.size()));
+    writer.beginDictionary(2 + static_cast<qsizetype>(otherEntries.size()));
 
     writer.writeConstant(generalDataKey);
-    const auto& [numbers, otherEntries] = _generalData;
-    writer.beginDictionary(numbers.size() + static_cast<qsizetype>(otherEntries.size()));
+    const auto& numbers = generalData.numbers;
+    writer.beginDictionary(numbers.size() + static_cast<qsizetype>(generalData.otherEntries.size()));
     for (auto entry = numbers.begin(); entry != numbers.end(); ++entry) {
         writer.writeConstant(entry.key());
         writer.writeNumber(ArchiveNumber(*entry));
     }
-    writeEntries(writer, otherEntries);
+    writeEntries(writer, generalData.otherEntries);
     writer.endObject();
 
     writer.writeConstant(toursArrayKey);
-    writer.beginArray(static_cast<qsizetype>(_toursArray.size()));
-    for (const auto& tour : _toursArray) {
-        tour->encodeWithCoder(writer);
+    writer.beginArray(static_cast<qsizetype>(tours.size()));
+    for (const auto& tour : tours) {
+        encode(tour, writer);
         if (writer.bytes().size() < pieceSize)
             continue;
         sink(writer.bytes());
@@ -188,7 +217,7 @@ void MyDocument::write(const ByteSink& sink) const
     }
     writer.endObject();
 
-    writeEntries(writer, _otherEntries);
+    writeEntries(writer, otherEntries);
     writer.endObject();
     sink(writer.bytes());
 }

@@ -60,6 +60,9 @@ public:
     bool loadDataRepresentation(const QByteArray& data, const QString& ofType,
                                 const QDateTime& now = CalendarDate::now());
     const QString& refusal() const { return _refusal; }
+    /// Gives the stored form as it is now, whenever it is asked and in whatever thread. Taking it costs
+    /// little: it shares the recordings with the document.
+    ByteSource storedForm() const;
 
     /// Whether these are the first bytes of a document, of this program or an older one.
     static bool isDocument(QByteArrayView firstBytes);
@@ -128,6 +131,9 @@ private:
 
     /// Passes the stored form on in pieces.
     void write(const ByteSink& sink) const;
+    template <typename Tour>
+    static void write(const ByteSink& sink, const StoredGeneralData& generalData,
+                      const std::vector<Tour>& tours, const KeptEntries& otherEntries);
     std::optional<QString> writeTo(DocumentFile& file);
     std::optional<QString> readFrom(DocumentFile& file, const QDateTime& now);
     Import mergeDump(const OdoData& dump);

@@ -18,7 +18,10 @@ OdoTour::~OdoTour() = default;
 std::shared_ptr<OdoTour> OdoTour::make()
 {
     struct Tour final : OdoTour {};
-    return std::make_shared<Tour>();
+    static const auto noDictionary = std::make_shared<const std::optional<TourDictionary>>();
+    auto tour = std::make_shared<Tour>();
+    tour->_tourDataDict = noDictionary;
+    return tour;
 }
 
 QString OdoTour::untitled()
@@ -30,7 +33,7 @@ std::shared_ptr<OdoTour> OdoTour::initWithOdoDataTourDict(std::optional<TourDict
                                                           const QDateTime& now)
 {
     auto tour = make();
-    tour->_tourDataDict = std::move(tourDict);
+    tour->setTourDataDict(std::move(tourDict));
     tour->setTitle(untitled());
     tour->setTourDescription(untitled());
     tour->setRemoved(false);
@@ -102,7 +105,7 @@ void OdoTour::calculateDate(const QDateTime& now)
     if (_date.isValid())
         return;
     static const TourDictionary none;
-    const auto& dict = _tourDataDict ? *_tourDataDict : none;
+    const auto& dict = tourDataDict() ? *tourDataDict() : none;
     const auto dateInYear = [&](int year) {
         return CalendarDate::fromFields(year, dict.month.value_or(0), dict.day.value_or(0),
                                         dict.hour.value_or(0), dict.min.value_or(0), 0, now.timeZone());
@@ -176,43 +179,43 @@ void OdoTour::setRemoved(bool removed)
 
 void OdoTour::setTourDataDict(std::optional<TourDictionary> tourDict)
 {
-    _tourDataDict = std::move(tourDict);
+    _tourDataDict = std::make_shared<const std::optional<TourDictionary>>(std::move(tourDict));
 }
 
 std::span<const DataRect> OdoTour::tourData() const
 {
     const auto samples =
-        _tourDataDict ? std::span<const DataRect>(_tourDataDict->tourData) : std::span<const DataRect>();
+        tourDataDict() ? std::span<const DataRect>(tourDataDict()->tourData) : std::span<const DataRect>();
     qCDebug(lcTour, "tourData %zu", samples.size());
     return samples;
 }
 
 void OdoTour::appendTourData(std::span<const DataRect> samples)
 {
-    if (!_tourDataDict)
-        _tourDataDict.emplace();
-    auto& held = _tourDataDict->tourData;
+    auto tourDict = tourDataDict().value_or(TourDictionary());
+    auto& held = tourDict.tourData;
     held.insert(held.end(), samples.begin(), samples.end());
+    setTourDataDict(std::move(tourDict));
 }
 
 std::optional<QString> OdoTour::type() const
 {
-    return _tourDataDict ? _tourDataDict->type : std::nullopt;
+    return tourDataDict() ? tourDataDict()->type : std::nullopt;
 }
 
 std::optional<std::int32_t> OdoTour::distanceAtStart() const
 {
-    return _tourDataDict ? _tourDataDict->distanceAtStart : std::nullopt;
+    return tourDataDict() ? tourDataDict()->distanceAtStart : std::nullopt;
 }
 
 std::optional<std::int32_t> OdoTour::altitudeAtStart() const
 {
-    return _tourDataDict ? _tourDataDict->altitudeAtStart : std::nullopt;
+    return tourDataDict() ? tourDataDict()->altitudeAtStart : std::nullopt;
 }
 
 std::optional<std::int32_t> OdoTour::pulseAtStart() const
 {
-    return _tourDataDict ? _tourDataDict->pulseAtStart : std::nullopt;
+    return tourDataDict() ? tourDataDict()->pulseAtStart : std::nullopt;
 }
 
 } // namespace ridelog

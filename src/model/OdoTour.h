@@ -3,6 +3,7 @@
 #include "model/CalculatedValues.h"
 #include "model/ChartProviders.h"
 #include "model/SeriesEntry.h"
+#include "model/StoredTour.h"
 #include "model/TourDictionary.h"
 #include "platform/CalendarDate.h"
 #include "platform/StyledText.h"
@@ -46,6 +47,8 @@ public:
                                                   const QDateTime& now = CalendarDate::now());
     /// Writes the stored form, as one object.
     void encodeWithCoder(TypedStreamWriter& writer) const;
+    /// What it writes, for later or for another thread.
+    StoredTour stored() const;
 
     // Identity
 
@@ -87,7 +90,7 @@ public:
 
     // What the device recorded
 
-    const std::optional<TourDictionary>& tourDataDict() const { return _tourDataDict; }
+    const std::optional<TourDictionary>& tourDataDict() const { return *_tourDataDict; }
     void setTourDataDict(std::optional<TourDictionary> tourDict);
     std::span<const DataRect> tourData() const;
     /// Adds samples behind those held. They enter the series when the tour is next made from its stored form.
@@ -177,7 +180,7 @@ private:
     template <typename Change>
     void registerUndo(const QString& actionName, Change&& change);
     void tellChange();
-    void _convertDataFromBigEndian();
+    void _convertDataFromBigEndian(std::optional<TourDictionary>& tourDict);
 
     /// Builds the series and the first eight summary values in one pass over the samples.
     void calculateAllValues(const QDateTime& now);
@@ -190,7 +193,8 @@ private:
     QPointer<UndoManager> _undo;
     QPointer<TourChanges> _changes;
     QDateTime _date; // beside them: a merge asks thousands of tours for these
-    std::optional<TourDictionary> _tourDataDict;
+    /// Replaced, never changed: stored forms share it. Never null.
+    std::shared_ptr<const std::optional<TourDictionary>> _tourDataDict;
     QString _title;
     StyledText _description;
     bool _removed = false;

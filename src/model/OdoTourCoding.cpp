@@ -10,8 +10,10 @@ namespace {
 
 constexpr int storedVersion = 6;
 constexpr char tourClassName[] = "OdoTour";
-/// A tour takes itself, its place in lists, and small blocks: the first entry of its series, date, texts.
-constexpr qint64 costOfTour = sizeof(OdoTour) + 12 * TypedStreamReader::costOfBlock;
+/// A tour takes itself and what was recorded, its place in lists, and small blocks: the first entry of its
+/// series, date, texts.
+constexpr qint64 costOfTour =
+    sizeof(OdoTour) + sizeof(std::optional<TourDictionary>) + 13 * TypedStreamReader::costOfBlock;
 const QString samplesKey = QStringLiteral("tourData");
 
 const ArchiveClass& tourClass()
@@ -130,7 +132,7 @@ std::shared_ptr<OdoTour> OdoTour::initWithCoder(TypedStreamReader& reader, const
     tour->_description = StyledText(untitled());
     tour->_dataIsBigEndian = true;
     expect(reader, "NSDictionary", QStringLiteral("the recording"));
-    tour->_tourDataDict = readDictionary(reader);
+    auto tourDict = readDictionary(reader);
     if (*version >= 2) {
         expect(reader, "NSString", QStringLiteral("the title"));
         tour->_title = reader.readString().value_or(untitled());
@@ -158,15 +160,16 @@ std::shared_ptr<OdoTour> OdoTour::initWithCoder(TypedStreamReader& reader, const
     if (reader.failed())
         return nullptr;
 
-    tour->_convertDataFromBigEndian();
+    tour->_convertDataFromBigEndian(tourDict);
+    tour->setTourDataDict(std::move(tourDict));
     tour->calculateAllValues(now);
     return tour;
 }
 
-void OdoTour::_convertDataFromBigEndian()
+void OdoTour::_convertDataFromBigEndian(std::optional<TourDictionary>& tourDict)
 {
-    if (_dataIsBigEndian && _tourDataDict)
-        convertFromBigEndian(_tourDataDict->tourData);
+    if (_dataIsBigEndian && tourDict)
+        convertFromBigEndian(tourDict->tourData);
     _dataIsBigEndian = false;
 }
 
@@ -174,17 +177,32 @@ void OdoTour::encodeWithCoder(TypedStreamWriter& writer) const
 {
     static int encodings = 0;
     qCDebug(lcTour, "encode %d for version %d", ++encodings, storedVersion);
+    stored().encodeWithCoder(writer);
+}
+
+StoredTour OdoTour::stored() const
+{
+    return {.tourDataDict = _tourDataDict,
+            .title = _title,
+            .description = _description,
+            .removed = _removed,
+            .date = _date,
+            .dataIsBigEndian = _dataIsBigEndian};
+}
+
+void StoredTour::encodeWithCoder(TypedStreamWriter& writer) const
+{
     writer.beginObject(tourClass());
-    if (_tourDataDict)
-        writeDictionary(writer, *_tourDataDict);
+    if (*tourDataDict)
+        writeDictionary(writer, **tourDataDict);
     else
         writer.writeNil();
-    writer.writeString(_title);
-    _description.write(writer);
-    const char removed = _removed ? 1 : 0;
-    writer.writeData(QByteArrayView(&removed, 1));
-    writer.writeDate(_date);
-    writer.writeNumber(ArchiveNumber(_dataIsBigEndian));
+    writer.writeString(title);
+    description.write(writer);
+    const char mark = removed ? 1 : 0;
+    writer.writeData(QByteArrayView(&mark, 1));
+    writer.writeDate(date);
+    writer.writeNumber(ArchiveNumber(dataIsBigEndian));
     writer.endObject();
 }
 

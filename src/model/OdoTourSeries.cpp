@@ -113,16 +113,16 @@ void OdoTour::calculateValuesOfEmptyTour(const QDateTime& now)
 void OdoTour::calculateAllValues(const QDateTime& now)
 {
     qCDebug(lcTour, "calculateAllValues");
-    if (!_tourDataDict) {
+    if (!tourDataDict()) {
         calculateValuesOfEmptyTour(now);
         return;
     }
 
     const auto& table = sampleTable();
-    const auto& samples = _tourDataDict->tourData;
+    const auto& samples = tourDataDict()->tourData;
     const auto first = samples.empty() ? DataRect{} : samples.front();
-    std::int32_t altitude = _tourDataDict->altitudeAtStart.value_or(0);
-    std::int32_t pulse = _tourDataDict->pulseAtStart.value_or(0);
+    std::int32_t altitude = tourDataDict()->altitudeAtStart.value_or(0);
+    std::int32_t pulse = tourDataDict()->pulseAtStart.value_or(0);
     float distance = 0;
     std::uint32_t time = 0;
 

@@ -77,6 +77,25 @@ TEST(MyDocument, ComesBackWithAllThatItHolds)
     EXPECT_EQ(stored(again), bytes);
 }
 
+TEST(MyDocument, TheStoredFormStaysAsItWasTaken)
+{
+    MyDocument document;
+    fill(document);
+    const auto bytes = stored(document);
+    const auto form = document.storedForm();
+    const auto tour = document.toursArray().front();
+    tour->setTitle(QStringLiteral("Home"));
+    tour->setTourDescription(QStringLiteral("calm"));
+    tour->setRemoved(false);
+    tour->setDate(berlin(2001, 1, 1));
+    tour->appendTourData(std::vector<DataRect>(3));
+    document.setGeneralData({});
+    document.addNewToursFromArray(rides(1, 2));
+    QByteArray given;
+    form([&given](QByteArrayView piece) { given += piece; });
+    EXPECT_EQ(given, bytes);
+}
+
 TEST(MyDocument, WhatIsNotKnownHereIsKept)
 {
     const auto bytes = written([](TypedStreamWriter& out) {
