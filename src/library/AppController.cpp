@@ -27,7 +27,8 @@ QString absolutePath(const QString& path)
 
 } // namespace
 
-AppController::AppController(Defaults& defaults, QObject* parent) : QObject(parent), _defaults(defaults)
+AppController::AppController(Defaults& defaults, const QString& recoveryFolder, QObject* parent)
+    : QObject(parent), _defaults(defaults), _recovery(recoveryFolder)
 {
     DefaultsKeys::registerApplicationDefaults(_defaults);
     DefaultsKeys::registerDocumentDefaults(_defaults);
@@ -43,6 +44,7 @@ MyDocument& AppController::newDocument()
 MyDocument& AppController::add(std::unique_ptr<MyDocument> document)
 {
     auto& added = *_documents.emplace_back(std::move(document));
+    _recovery.watch(added);
     Q_EMIT documentOpened(&added);
     return added;
 }
@@ -61,6 +63,19 @@ MyDocument* AppController::openDocument(const QString& path)
     }
     noteRecentDocument(location);
     return &add(std::move(document));
+}
+
+MyDocument* AppController::recoverDocument(const Leftover& leftover)
+{
+    auto* open = leftover.path.isEmpty() ? nullptr : documentWithFile(leftover.path);
+    auto document = open ? nullptr : std::make_unique<MyDocument>(&_defaults);
+    if (const auto error = _recovery.recover(leftover, open ? *open : *document)) {
+        Q_EMIT openFailed(leftover.path, *error);
+        return nullptr;
+    }
+    if (!leftover.path.isEmpty())
+        noteRecentDocument(leftover.path);
+    return open ? open : &add(std::move(document));
 }
 
 MyDocument* AppController::documentWithFile(const QString& path) const
@@ -89,6 +104,7 @@ void AppController::closeDocument(MyDocument& document)
     // Whoever is told that it goes does not find it among the open ones any more.
     const auto closed = std::move(*found);
     _documents.erase(found);
+    _recovery.forget(*closed);
 }
 
 // Recent documents

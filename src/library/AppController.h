@@ -1,5 +1,6 @@
 #pragma once
 
+#include "library/DocumentRecovery.h"
 #include "library/MyDocument.h"
 
 #include <QObject>
@@ -17,7 +18,9 @@ class AppController : public QObject {
 
 public:
     /// Registers the values that count while the user has made no choices. There may be no document before.
-    explicit AppController(Defaults& defaults, QObject* parent = nullptr);
+    explicit AppController(Defaults& defaults, const QString& recoveryFolder = DocumentRecovery::userFolder(),
+                           QObject* parent = nullptr);
+    /// Changes of documents that are still open are kept for the next start.
     ~AppController() override;
 
     /// In the order in which they were opened.
@@ -28,7 +31,7 @@ public:
     MyDocument* openDocument(const QString& path);
     /// Saves under another name (see MyDocument::saveAs). None, or what went wrong.
     std::optional<QString> saveDocumentAs(MyDocument& document, const QString& path);
-    /// Destroys the document, saved or not. Its file is free for others then.
+    /// Destroys the document, saved or not, and what was kept aside of it. Its file is free for others then.
     void closeDocument(MyDocument& document);
 
     /// Absolute paths of the documents used last, newest first, whether or not they are still there.
@@ -38,9 +41,16 @@ public:
     /// used last. Whether a new one is to be made instead: only if no document was ever used.
     bool applicationShouldOpenUntitledFile();
 
+    /// What keeps changes that are not saved, and has those that earlier runs left.
+    DocumentRecovery& recovery() { return _recovery; }
+    /// The document that was left, with changes that are not saved: a new one, or the one with its file that
+    /// is open already. None when that has changes itself, or when it cannot be read: openFailed says why.
+    MyDocument* recoverDocument(const Leftover& leftover);
+
 Q_SIGNALS:
     /// A new document, or one from a file; not told of one that is open already.
     void documentOpened(ridelog::MyDocument* document);
+    /// The path is empty for what was left of a document without a file.
     void openFailed(const QString& path, const QString& reason);
 
 private:
@@ -50,6 +60,7 @@ private:
 
     Defaults& _defaults;
     std::vector<std::unique_ptr<MyDocument>> _documents;
+    DocumentRecovery _recovery; ///< goes before the documents that it watches
 };
 
 } // namespace ridelog

@@ -85,6 +85,11 @@ public:
     std::optional<QString> saveAs(const QString& path);
     /// Goes back to what the file holds, and forgets all steps.
     std::optional<QString> revert(const QDateTime& now = CalendarDate::now());
+    /// Takes over what was kept aside of the document of this path, empty for one without a file: it is
+    /// changed then, and has nothing to undo. Its file was `known` to it.
+    std::optional<QString> recover(const QString& copy, const QString& path,
+                                   const std::optional<FileState>& known,
+                                   const QDateTime& now = CalendarDate::now());
 
     /// As it was given; empty for a document without a file.
     QString path() const { return _file ? _file->path() : QString(); }
@@ -92,6 +97,8 @@ public:
     bool isReadOnly() const { return !_readOnlyReason.isEmpty(); }
     const QString& readOnlyReason() const { return _readOnlyReason; }
     bool fileWasChangedByOthers() const { return _file && _file->wasChangedByOthers(); }
+    /// The file as it was when it was last read or saved; none if there was none.
+    std::optional<FileState> knownFile() const { return _file ? _file->known() : std::nullopt; }
     /// Lets the next save overwrite what others have written; to be asked before.
     void acceptChangesOfOthers();
 

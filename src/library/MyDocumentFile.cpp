@@ -88,6 +88,24 @@ std::optional<QString> MyDocument::revert(const QDateTime& now)
     return readFrom(*_file, now);
 }
 
+std::optional<QString> MyDocument::recover(const QString& copy, const QString& path,
+                                           const std::optional<FileState>& known, const QDateTime& now)
+{
+    DocumentFile kept(copy);
+    if (auto error = readFrom(kept, now))
+        return error;
+    _undoManager.setUnclean();
+    if (path.isEmpty())
+        return std::nullopt;
+    if (!_file || !_file->isSameFile(path)) {
+        DocumentFile file(path);
+        _readOnlyReason = file.lock().value_or(QString());
+        _file = std::move(file);
+    }
+    _file->setKnown(known);
+    return std::nullopt;
+}
+
 void MyDocument::acceptChangesOfOthers()
 {
     if (_file)

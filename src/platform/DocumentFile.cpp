@@ -106,7 +106,7 @@ std::optional<QString> DocumentFile::read(const Load& load, qint64 largest)
         return file.errorString();
     if (auto error = load(bytes))
         return error;
-    _known = State(found);
+    _known = FileState(found);
     return std::nullopt;
 }
 
@@ -114,6 +114,14 @@ bool DocumentFile::wasChangedByOthers() const
 {
     const auto current = currentState();
     return current && current != _known;
+}
+
+void DocumentFile::setKnown(const std::optional<FileState>& known)
+{
+    _known = known;
+    const auto current = currentState();
+    if (_known && current)
+        _known->device = current->device;
 }
 
 std::optional<QString> DocumentFile::write(const ByteSource& content)
@@ -132,7 +140,7 @@ std::optional<QString> DocumentFile::write(const ByteSource& content)
         return change;
     if (auto error = file.putInPlace())
         return error;
-    _known = State(file.state());
+    _known = FileState(file.state());
     _backedUp = true;
     return file.forceFolder();
 }
@@ -160,7 +168,7 @@ std::optional<QString> DocumentFile::changeOfOthers() const
                                 : std::nullopt;
 }
 
-DocumentFile::State::State(const struct stat& found)
+FileState::FileState(const struct stat& found)
     : device(found.st_dev),
       number(found.st_ino),
       size(found.st_size),
@@ -168,12 +176,12 @@ DocumentFile::State::State(const struct stat& found)
 {
 }
 
-std::optional<DocumentFile::State> DocumentFile::currentState() const
+std::optional<FileState> DocumentFile::currentState() const
 {
     struct stat found {};
     if (::stat(QFile::encodeName(_target).constData(), &found) != 0)
         return std::nullopt;
-    return State(found);
+    return FileState(found);
 }
 
 } // namespace ridelog

@@ -14,6 +14,17 @@
 
 namespace ridelog {
 
+/// Tells two states of a file apart.
+struct FileState {
+    std::uint64_t device = 0;
+    std::uint64_t number = 0;
+    std::int64_t size = 0;
+    std::int64_t modified = 0; ///< nanoseconds
+    FileState() = default;
+    explicit FileState(const struct stat& found);
+    bool operator==(const FileState&) const = default;
+};
+
 /// The file of an open document. While the document is open other programs of this kind are told so by a lock
 /// file beside it; the file itself is only read, and replaced whole.
 ///
@@ -45,22 +56,18 @@ public:
     /// What was there may be overwritten, whoever wrote it.
     void acceptChangesOfOthers() { _known = currentState(); }
 
+    /// The file as it was when it was last read or written here; none: there was none.
+    const std::optional<FileState>& known() const { return _known; }
+    /// The file is known from an earlier run of the program. Devices may have got other numbers since.
+    void setKnown(const std::optional<FileState>& known);
+
     /// Writes the file (see WholeFile). The first time, what was there is kept beside it under its name with
     /// a "~" behind it, or with more where such a file is no older document or is open as one. Refused when
     /// the file is locked or was changed by others.
     std::optional<QString> write(const ByteSource& content);
 
 private:
-    /// Tells two states of a file apart.
-    struct State {
-        std::uint64_t device;
-        std::uint64_t number;
-        std::int64_t size;
-        std::int64_t modified; ///< nanoseconds
-        explicit State(const struct stat& found);
-        bool operator==(const State&) const = default;
-    };
-    std::optional<State> currentState() const;
+    std::optional<FileState> currentState() const;
     std::optional<QString> changeOfOthers() const;
     std::optional<QString> keepBackup() const;
     QString passingPath(const QString& suffix) const;
@@ -68,7 +75,7 @@ private:
     QString _path;
     QString _target; ///< links followed
     std::unique_ptr<QLockFile> _lock;
-    std::optional<State> _known; ///< none: there is no file
+    std::optional<FileState> _known; ///< none: there is no file
     bool _backedUp = false;
 };
 

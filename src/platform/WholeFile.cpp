@@ -120,7 +120,8 @@ private:
     int _descriptor = -1;
 };
 
-WholeFile::WholeFile(const QString& path, const QString& passing)
+WholeFile::WholeFile(const QString& path, const QString& passing, mode_t permissions)
+    : _permissions(permissions)
 {
     const auto target = targetOfPath(path);
     _name = QFile::encodeName(target);
@@ -169,7 +170,7 @@ std::optional<QString> WholeFile::putInPlaceOf(const QByteArray& name)
 /// There is no new file where files of this kind cannot be made at all.
 std::optional<QString> WholeFile::makeNewFile(Kind kind)
 {
-    _newFile = std::make_unique<NewFile>(_folder, _passing, kind, _old ? 0600 : 0666);
+    _newFile = std::make_unique<NewFile>(_folder, _passing, kind, _old ? 0600 : _permissions);
     if (!_newFile->isOpen()) {
         auto error = inFolder(systemError());
         _newFile.reset();

@@ -23,8 +23,9 @@ using ByteSource = std::function<void(const ByteSink&)>;
 class WholeFile {
 public:
     /// For the moment before it takes its place the new file has the name `passing`, which nobody else may
-    /// use: what a killed program leaves can be found by it. Empty stands for a name of no other file.
-    explicit WholeFile(const QString& path, const QString& passing = QString());
+    /// use: what a killed program leaves can be found by it. Empty stands for a name of no other file. A file
+    /// that comes into being has these permissions, less what the user's mask takes away.
+    explicit WholeFile(const QString& path, const QString& passing = QString(), mode_t permissions = 0666);
     ~WholeFile();
     WholeFile(const WholeFile&) = delete;
     WholeFile& operator=(const WholeFile&) = delete;
@@ -50,6 +51,7 @@ private:
     QByteArray _name;
     QByteArray _folder;
     QByteArray _passing;
+    mode_t _permissions;
     int _folderDescriptor = -1;
     ByteSource _content;
     std::optional<struct stat> _old;

@@ -14,7 +14,8 @@ namespace {
 
 /// The application from its start to its end, and what its windows are told.
 struct Session {
-    explicit Session(const TemporaryFolder& folder) : defaults(folder.path("ridelog.ini"))
+    explicit Session(const TemporaryFolder& folder)
+        : defaults(folder.path("ridelog.ini")), app(defaults, folder.path("recovery"))
     {
         QObject::connect(&app, &AppController::documentOpened,
                          [this](const MyDocument* document) { opened.append(document->path()); });
@@ -26,7 +27,7 @@ struct Session {
     }
 
     Defaults defaults;
-    AppController app{defaults};
+    AppController app;
     QStringList opened;
     QStringList failed;
 };
