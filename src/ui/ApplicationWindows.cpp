@@ -2,11 +2,15 @@
 
 #include "library/AppController.h"
 #include "platform/Defaults.h"
+#include "ui/Counted.h"
 #include "ui/MainWindowController.h"
 
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPushButton>
 
 #include <algorithm>
 
@@ -27,13 +31,21 @@ ApplicationWindows::ApplicationWindows(AppController& controller, Defaults& defa
     connect(&_controller, &AppController::documentOpened, this,
             [this](MyDocument* document) { addWindow(*document); });
     connect(&_controller, &AppController::openFailed, this, &ApplicationWindows::showFailure);
+    connect(&_controller.recovery(), &DocumentRecovery::failed, this,
+            [this](const MyDocument* document, const QString& reason) {
+                if (auto* window = windowOf(*document))
+                    window->showMessage(
+                        tr("Changes that are not saved cannot be kept aside: %1").arg(reason));
+            });
 }
 
 ApplicationWindows::~ApplicationWindows()
 {
-    // Windows know their documents, which the controller destroys later.
-    for (auto* window : mainWindows())
+    // Nobody has closed them: what is not saved of their documents is kept for the next start.
+    for (auto* window : mainWindows()) {
+        window->disconnect(this);
         delete window;
+    }
     delete _startWindow;
 }
 
@@ -85,12 +97,37 @@ void ApplicationWindows::bringToFront(QWidget& window)
 
 void ApplicationWindows::start(const QStringList& paths)
 {
+    offerLeftovers();
     if (!paths.isEmpty())
         takeFiles(paths);
-    else if (_controller.applicationShouldOpenUntitledFile())
+    else if (_mainWindows.empty() && _controller.applicationShouldOpenUntitledFile())
         _controller.newDocument();
     if (_mainWindows.empty() && !_startWindow)
         _controller.newDocument();
+}
+
+void ApplicationWindows::offerLeftovers()
+{
+    const auto leftovers = _controller.recovery().leftovers();
+    for (const auto& leftover : leftovers) {
+        const auto name = leftover.path.isEmpty() ? tr("a document without a name") : leftover.path;
+        QMessageBox box(QMessageBox::Question, QString(), tr("ridelog ended before %1 was saved.").arg(name));
+        const auto tours = counted(leftover.tours, tr("1 tour"), tr("%1 tours"));
+        const auto date = QLocale().toString(leftover.written, QLocale::ShortFormat);
+        auto kept = tr("The document as it was on %1, with %2, was kept.").arg(date, tours);
+        if (!leftover.fileChange.isEmpty())
+            kept += u' ' + tr("Meanwhile %1.").arg(leftover.fileChange);
+        box.setInformativeText(kept);
+        box.setTextFormat(Qt::PlainText);
+        const QAbstractButton* recover = box.addButton(tr("&Recover"), QMessageBox::AcceptRole);
+        const QAbstractButton* discard = box.addButton(tr("&Discard"), QMessageBox::DestructiveRole);
+        box.addButton(tr("Ask Me &Later"), QMessageBox::RejectRole);
+        box.exec();
+        if (box.clickedButton() == recover)
+            _controller.recoverDocument(leftover);
+        else if (box.clickedButton() == discard)
+            _controller.recovery().discard(leftover);
+    }
 }
 
 void ApplicationWindows::takeFiles(const QStringList& paths)

@@ -29,6 +29,7 @@ class ApplicationWindows : public QObject {
 public:
     /// Both have to outlive it.
     ApplicationWindows(AppController& controller, Defaults& defaults, QObject* parent = nullptr);
+    /// Documents that are still open stay the controller's.
     ~ApplicationWindows() override;
 
     AppController& controller() { return _controller; }
@@ -37,7 +38,7 @@ public:
     std::vector<MainWindowController*> mainWindows() const;
     StartWindow* startWindow() const { return _startWindow; }
 
-    /// Begins with these files, or as AppController has it.
+    /// Begins with what a crash has left, then with these files, or as AppController has it.
     void start(const QStringList& paths);
     /// Opens documents, and imports dumps into the document in front. Without files it comes to the front.
     void takeFiles(const QStringList& paths);
@@ -59,6 +60,8 @@ public:
     static void bringToFront(QWidget& window);
 
 private:
+    /// Asks about what earlier runs did not come to save.
+    void offerLeftovers();
     void addWindow(MyDocument& document);
     MainWindowController* windowInFront() const;
     MainWindowController* windowOf(const MyDocument& document) const;

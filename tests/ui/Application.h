@@ -49,7 +49,7 @@ protected:
     {
         defaults = std::make_unique<Defaults>(path("settings"));
         defaults->setValue(DefaultsKeys::automaticCheck, false);
-        controller = std::make_unique<AppController>(*defaults);
+        controller = std::make_unique<AppController>(*defaults, path(recoveryFolder));
         windows = std::make_unique<ApplicationWindows>(*controller, *defaults);
         windows->simulatedDevice().setSpeed(0);
         windows->start(files);
@@ -114,6 +114,7 @@ protected:
     }
 
     QByteArray home;
+    const char* recoveryFolder = "recovery";
     std::unique_ptr<Defaults> defaults;
     std::unique_ptr<AppController> controller;
     std::unique_ptr<ApplicationWindows> windows;

@@ -5,6 +5,7 @@
 #include <QDockWidget>
 #include <QHeaderView>
 #include <QMimeData>
+#include <QProcess>
 #include <QScreen>
 #include <QStandardItemModel>
 
@@ -254,6 +255,41 @@ TEST_F(MainWindow, FilesThatAreGivenOrDroppedAreOpenedOrImported)
     QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&window(), &drop);
     EXPECT_EQ(rows(), 10);
+}
+
+TEST_F(MainWindow, WhatACrashLeftIsOffered)
+{
+    start({dump()});
+    ASSERT_EQ(controller->saveDocumentAs(document(), path("tours.ridelog")), std::nullopt);
+    trigger("Remove Tour");
+    bool isWritten = false;
+    QObject::connect(&controller->recovery(), &DocumentRecovery::written, &answers,
+                     [&] { isWritten = true; });
+    ASSERT_TRUE(eventually([&] { return isWritten; }));
+    // As a crash leaves it: nothing is cleared away.
+    ASSERT_EQ(QProcess::execute(QStringLiteral("cp"), {QStringLiteral("-r"), path("recovery"), path("left")}),
+              0);
+    answer("Don't Save");
+    window().close();
+    ASSERT_TRUE(eventually([&] { return windows->mainWindows().empty(); }));
+    end();
+
+    recoveryFolder = "left";
+    answer("Ask Me Later");
+    start();
+    EXPECT_TRUE(question.startsWith(QStringLiteral("ridelog ended before ") + path("tours.ridelog")));
+    EXPECT_EQ(rows(), 5);
+    end();
+    answer("Recover");
+    start();
+    ASSERT_EQ(windows->mainWindows().size(), 1U);
+    EXPECT_EQ(rows(), 4);
+    EXPECT_EQ(document().path(), path("tours.ridelog"));
+    EXPECT_TRUE(window().isWindowModified());
+    EXPECT_TRUE(window().save());
+    end();
+    start();
+    EXPECT_EQ(rows(), 4);
 }
 
 TEST_F(MainWindow, SettingsThatMakeNoSenseAreNoObstacle)
