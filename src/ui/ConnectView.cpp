@@ -129,7 +129,6 @@ QString ConnectView::state() const
 void ConnectView::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    refreshPorts();
     _refresh.start();
 }
 

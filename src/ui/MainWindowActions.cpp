@@ -31,12 +31,10 @@
 namespace ridelog {
 
 QAction* MainWindowController::addAction(QMenu& menu, const QString& text, const QKeySequence& keys,
-                                         const QString& icon, void (MainWindowController::*slot)())
+                                         void (MainWindowController::*slot)())
 {
     auto* action = menu.addAction(text, this, slot);
     action->setShortcut(keys);
-    if (!icon.isEmpty())
-        action->setIcon(QIcon::fromTheme(icon));
     return action;
 }
 
@@ -55,25 +53,20 @@ void MainWindowController::makeFileMenu()
 {
     using Window = MainWindowController;
     auto& menu = *menuBar()->addMenu(tr("&File"));
-    addAction(menu, tr("&New"), QKeySequence::New, QStringLiteral("document-new"), &Window::newDocument);
-    addAction(menu, tr("&Open…"), QKeySequence::Open, QStringLiteral("document-open"), &Window::openDocument);
+    addAction(menu, tr("&New"), QKeySequence::New, &Window::newDocument);
+    addAction(menu, tr("&Open…"), QKeySequence::Open, &Window::openDocument);
     _recentMenu = menu.addMenu(tr("Open &Recent"));
     connect(_recentMenu, &QMenu::aboutToShow, this, &Window::fillRecentMenu);
     menu.addSeparator();
-    _importAction = addAction(menu, tr("&Import Dump…"), Qt::CTRL | Qt::Key_I,
-                              QStringLiteral("document-import"), &Window::importFile);
+    _importAction = addAction(menu, tr("&Import Dump…"), Qt::CTRL | Qt::Key_I, &Window::importFile);
     menu.addSeparator();
-    _saveAction = addAction(menu, tr("&Save"), QKeySequence::Save, QStringLiteral("document-save"),
-                            &Window::saveDocument);
-    addAction(menu, tr("Save &As…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S, QStringLiteral("document-save-as"),
-              &Window::saveDocumentAs);
-    _revertAction =
-        addAction(menu, tr("Re&vert"), {}, QStringLiteral("document-revert"), &Window::revertDocument);
+    _saveAction = addAction(menu, tr("&Save"), QKeySequence::Save, &Window::saveDocument);
+    addAction(menu, tr("Save &As…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S, &Window::saveDocumentAs);
+    _revertAction = addAction(menu, tr("Re&vert"), {}, &Window::revertDocument);
     menu.addSeparator();
     auto* closeAction = menu.addAction(tr("&Close"), this, &QWidget::close);
     closeAction->setShortcut(QKeySequence::Close);
-    auto* quitAction = menu.addAction(QIcon::fromTheme(QStringLiteral("application-exit")), tr("&Quit"),
-                                      &_windows, &ApplicationWindows::quit);
+    auto* quitAction = menu.addAction(tr("&Quit"), &_windows, &ApplicationWindows::quit);
     quitAction->setShortcut(Qt::CTRL | Qt::Key_Q);
     quitAction->setMenuRole(QAction::QuitRole);
 }
@@ -82,22 +75,19 @@ void MainWindowController::makeEditMenu()
 {
     using Window = MainWindowController;
     auto& menu = *menuBar()->addMenu(tr("&Edit"));
-    _undoAction = addAction(menu, {}, QKeySequence::Undo, QStringLiteral("edit-undo"), &Window::undo);
-    _redoAction =
-        addAction(menu, {}, Qt::CTRL | Qt::SHIFT | Qt::Key_Z, QStringLiteral("edit-redo"), &Window::redo);
+    _undoAction = addAction(menu, {}, QKeySequence::Undo, &Window::undo);
+    _redoAction = addAction(menu, {}, Qt::CTRL | Qt::SHIFT | Qt::Key_Z, &Window::redo);
     menu.addSeparator();
-    _removeAction = addAction(menu, tr("Re&move Tour"), Qt::Key_Delete, QStringLiteral("edit-delete"),
-                              &Window::deleteSelectedTour);
+    _removeAction = addAction(menu, tr("Re&move Tour"), Qt::Key_Delete, &Window::deleteSelectedTour);
     _restoreAction =
-        addAction(menu, tr("Re&store Tour"), Qt::SHIFT | Qt::Key_Delete, {}, &Window::undeleteSelectedTour);
+        addAction(menu, tr("Re&store Tour"), Qt::SHIFT | Qt::Key_Delete, &Window::undeleteSelectedTour);
     _showRemovedAction = menu.addAction(tr("S&how Removed Tours"));
     _showRemovedAction->setCheckable(true);
     _showRemovedAction->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_R);
     connect(_showRemovedAction, &QAction::toggled, this, &Window::showRemoved);
     menu.addSeparator();
-    addAction(menu, tr("&Find"), QKeySequence::Find, QStringLiteral("edit-find"), &Window::find);
-    addAction(menu, tr("Select &All"), QKeySequence::SelectAll, QStringLiteral("edit-select-all"),
-              &Window::selectAll);
+    addAction(menu, tr("&Find"), QKeySequence::Find, &Window::find);
+    addAction(menu, tr("Select &All"), QKeySequence::SelectAll, &Window::selectAll);
     menu.addSeparator();
     auto& units = *menu.addMenu(tr("Un&its"));
     auto* group = new QActionGroup(this);
@@ -121,8 +111,7 @@ void MainWindowController::makeEditMenu()
 void MainWindowController::makeTourMenu()
 {
     auto& menu = *menuBar()->addMenu(tr("&Tour"));
-    _editTitleAction = addAction(menu, tr("Edit &Title"), Qt::Key_F2, QStringLiteral("edit-rename"),
-                                 &MainWindowController::editTitle);
+    _editTitleAction = addAction(menu, tr("Edit &Title"), Qt::Key_F2, &MainWindowController::editTitle);
     _tableView->insertAction(_removeAction, _editTitleAction);
 }
 
@@ -130,20 +119,19 @@ void MainWindowController::makeDeviceMenu()
 {
     using Window = MainWindowController;
     auto& menu = *menuBar()->addMenu(tr("&Device"));
-    _transferButton =
-        menu.addAction(QIcon::fromTheme(QStringLiteral("network-wired")), tr("Connect &Drawer"));
+    _transferButton = menu.addAction(tr("Connect &Drawer"));
     _transferButton->setIconText(tr("Device"));
     _transferButton->setCheckable(true);
     _transferButton->setShortcut(Qt::CTRL | Qt::Key_D);
     connect(_transferButton, &QAction::triggered, this, &Window::toggleConnectDrawer);
     menu.addSeparator();
-    _startTransferAction = addAction(menu, tr("&Start Transfer"), Qt::CTRL | Qt::Key_T,
-                                     QStringLiteral("media-playback-start"), &Window::startTransfer);
-    _stopTransferAction = addAction(menu, tr("S&top Transfer"), Qt::CTRL | Qt::Key_Period,
-                                    QStringLiteral("media-playback-stop"), &Window::stopTransfer);
+    _startTransferAction =
+        addAction(menu, tr("&Start Transfer"), Qt::CTRL | Qt::Key_T, &Window::startTransfer);
+    _stopTransferAction =
+        addAction(menu, tr("S&top Transfer"), Qt::CTRL | Qt::Key_Period, &Window::stopTransfer);
     _stopTransferAction->setEnabled(false);
     menu.addSeparator();
-    _simulatedDeviceAction = addAction(menu, tr("Simulated De&vice"), Qt::CTRL | Qt::SHIFT | Qt::Key_D, {},
+    _simulatedDeviceAction = addAction(menu, tr("Simulated De&vice"), Qt::CTRL | Qt::SHIFT | Qt::Key_D,
                                        &Window::toggleSimulatedDevice);
     _simulatedDeviceAction->setCheckable(true);
     const auto check = [this] {
@@ -163,11 +151,10 @@ void MainWindowController::makeWindowMenu()
 void MainWindowController::makeHelpMenu()
 {
     auto& menu = *menuBar()->addMenu(tr("&Help"));
-    addAction(menu, tr("&Check for Updates…"), {}, {}, &MainWindowController::checkForUpdates);
-    addAction(menu, tr("Send &Feedback…"), {}, {}, &MainWindowController::sendFeedback);
+    addAction(menu, tr("&Check for Updates…"), {}, &MainWindowController::checkForUpdates);
+    addAction(menu, tr("Send &Feedback…"), {}, &MainWindowController::sendFeedback);
     menu.addSeparator();
-    auto* about = addAction(menu, tr("&About ridelog"), {}, QStringLiteral("help-about"),
-                            &MainWindowController::showAbout);
+    auto* about = addAction(menu, tr("&About ridelog"), {}, &MainWindowController::showAbout);
     about->setMenuRole(QAction::AboutRole);
 }
 
@@ -176,7 +163,7 @@ void MainWindowController::makeToolBar()
     auto& bar = *addToolBar(tr("Tool Bar"));
     bar.setObjectName(QStringLiteral("toolBar"));
     bar.setMovable(false);
-    bar.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    bar.setToolButtonStyle(Qt::ToolButtonTextOnly);
     bar.setContextMenuPolicy(Qt::PreventContextMenu);
     _importAction->setIconText(tr("Import"));
     bar.addActions({_transferButton, _importAction});
@@ -301,6 +288,8 @@ void MainWindowController::toggleSimulatedDevice()
     }
     if (_connectDrawer->isHidden())
         toggleConnectDrawer();
+    if (isConnected())
+        return;
     _connectView->selectPort(device.path());
     showMessage(tr("The simulated device is plugged in. Press Connect to take its tours."));
 }

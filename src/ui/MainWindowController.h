@@ -98,7 +98,7 @@ private:
     void makeWindowMenu();
     void makeHelpMenu();
     void makeToolBar();
-    QAction* addAction(QMenu& menu, const QString& text, const QKeySequence& keys, const QString& icon,
+    QAction* addAction(QMenu& menu, const QString& text, const QKeySequence& keys,
                        void (MainWindowController::*slot)());
     void restoreWindow();
     void storeWindow();

@@ -36,6 +36,8 @@ OdoCom::StopBits stopBitsFrom(const Defaults& defaults)
 void MainWindowController::fillPorts()
 {
     _connectView->refreshPorts();
+    if (isConnected())
+        return;
     const auto& simulated = _windows.simulatedDevice();
     _connectView->selectPort(
         simulated.isPluggedIn()
@@ -45,8 +47,6 @@ void MainWindowController::fillPorts()
 
 void MainWindowController::toggleConnectDrawer()
 {
-    if (_connectDrawer->isHidden())
-        fillPorts();
     _connectDrawer->setVisible(_connectDrawer->isHidden());
 }
 
@@ -55,7 +55,9 @@ void MainWindowController::drawerDidChange()
     // A window that is minimised or closed hides the drawer with it, which nobody has closed.
     const bool isOpen = !_connectDrawer->isHidden();
     _transferButton->setChecked(isOpen);
-    if (!isOpen && !_connectView->selectedPort().isEmpty())
+    if (isOpen)
+        fillPorts();
+    else if (!_connectView->selectedPort().isEmpty())
         _defaults.setValue(DefaultsKeys::selectedInterfacePort, _connectView->selectedPort());
     _defaults.setValue(DefaultsKeys::drawerOpen, isOpen);
 }
