@@ -89,7 +89,8 @@ int main(int argc, char* argv[])
         windows.setUpdateUrl(options.value(updateUrlName));
     if (options.isSet(simulatedDeviceName))
         windows.simulatedDevice().plugIn();
-    QObject::connect(&instance, &SingleInstance::started, &windows, &ApplicationWindows::takeFiles);
+    QObject::connect(&instance, &SingleInstance::started, &windows,
+                     [&windows](const QStringList& files) { windows.takeFiles(files); });
     instance.listen();
     windows.start(paths);
     return QApplication::exec();

@@ -16,7 +16,7 @@ constexpr qsizetype longestTitle = 40;
 
 QString titleOf(const OdoTour& tour)
 {
-    return tour.title() == OdoTour::untitled() ? QString() : elided(tour.title(), longestTitle);
+    return elided(tour.shownTitle(), longestTitle);
 }
 
 /// What most lists have no use for.

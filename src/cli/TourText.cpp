@@ -132,8 +132,7 @@ QString tourText(const OdoTour& tour, int number, const ReadableUnits& units)
         text += QStringLiteral("\n  It %1\n").arg(note);
     text += QStringLiteral("\nAt the start\n\n") + startText(tour, units);
     text += QStringLiteral("\nSummary\n\n") + summaryText(tour, units);
-    if (const auto& description = tour.tourDescription().text();
-        !description.isEmpty() && description != OdoTour::untitled())
+    if (const auto description = tour.shownDescription(); !description.isEmpty())
         text += QStringLiteral("\nDescription\n\n") + indented(description);
     return text;
 }

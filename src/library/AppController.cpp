@@ -70,7 +70,7 @@ MyDocument* AppController::recoverDocument(const Leftover& leftover)
     auto* open = leftover.path.isEmpty() ? nullptr : documentWithFile(leftover.path);
     auto document = open ? nullptr : std::make_unique<MyDocument>(&_defaults);
     if (const auto error = _recovery.recover(leftover, open ? *open : *document)) {
-        Q_EMIT openFailed(leftover.path, *error);
+        Q_EMIT recoveryFailed(leftover, *error);
         return nullptr;
     }
     if (!leftover.path.isEmpty())

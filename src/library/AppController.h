@@ -44,14 +44,15 @@ public:
     /// What keeps changes that are not saved, and has those that earlier runs left.
     DocumentRecovery& recovery() { return _recovery; }
     /// The document that was left, with changes that are not saved: a new one, or the one with its file that
-    /// is open already. None when that has changes itself, or when it cannot be read: openFailed says why.
+    /// is open already. None when that has changes itself, or when it cannot be read: recoveryFailed says
+    /// why.
     MyDocument* recoverDocument(const Leftover& leftover);
 
 Q_SIGNALS:
     /// A new document, or one from a file; not told of one that is open already.
     void documentOpened(ridelog::MyDocument* document);
-    /// The path is empty for what was left of a document without a file.
     void openFailed(const QString& path, const QString& reason);
+    void recoveryFailed(const ridelog::Leftover& leftover, const QString& reason);
 
 private:
     MyDocument& add(std::unique_ptr<MyDocument> document);

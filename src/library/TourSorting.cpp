@@ -39,7 +39,7 @@ struct Column {
 const Column columns[] = {
     {TourKey::date, start},
     {TourKey::type, text<&OdoTour::type>},
-    {TourKey::title, text<&OdoTour::title>},
+    {TourKey::title, text<&OdoTour::shownTitle>},
     {TourKey::totalDistance, number<&OdoTour::totalDistance>},
     {TourKey::duration, number<&OdoTour::duration>},
     {TourKey::elevationGain, number<&OdoTour::elevationGain>},

@@ -29,6 +29,17 @@ QString OdoTour::untitled()
     return QStringLiteral("n/a");
 }
 
+QString OdoTour::shownTitle() const
+{
+    return _title == untitled() ? QString() : _title;
+}
+
+QString OdoTour::shownDescription() const
+{
+    const auto& text = _description.text();
+    return text == untitled() ? QString() : text;
+}
+
 std::shared_ptr<OdoTour> OdoTour::initWithOdoDataTourDict(std::optional<TourDictionary> tourDict,
                                                           const QDateTime& now)
 {

@@ -80,6 +80,9 @@ public:
 
     /// Title and description of a tour that has none.
     static QString untitled();
+    // As people are shown them: empty for a tour that has none.
+    QString shownTitle() const;
+    QString shownDescription() const; ///< without its styles
     const QString& title() const { return _title; }
     void setTitle(const QString& title);
     const StyledText& tourDescription() const;

@@ -4,12 +4,14 @@
 #include "platform/Defaults.h"
 #include "ui/Counted.h"
 #include "ui/MainWindowController.h"
+#include "ui/Sheet.h"
+#include "ui/UiLog.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
-#include <QMessageBox>
 #include <QPushButton>
 
 #include <algorithm>
@@ -17,10 +19,25 @@
 namespace ridelog {
 namespace {
 
-/// A new document that nobody has done anything with.
-bool isUntouched(const MyDocument& document)
+/// Whether this window shows a new document that nobody has done anything with.
+bool isUntouched(MainWindowController& window)
 {
-    return document.path().isEmpty() && document.toursArray().empty() && !document.isChanged();
+    const auto& document = window.myDocument();
+    return document.path().isEmpty() && document.toursArray().empty() && !document.isChanged() &&
+           !window.isConnected() && !window.isAsking();
+}
+
+/// Whether a file is opened and not imported: for what it holds, for its name, which damage does not change,
+/// or because there is none, which opening it says best.
+bool isToBeOpened(const QString& path)
+{
+    const QFileInfo file(path);
+    return !file.isFile() || file.suffix() == MyDocument::extension || MyDocument::isDocumentFile(path);
+}
+
+QString nameOf(const Leftover& leftover)
+{
+    return leftover.path.isEmpty() ? ApplicationWindows::tr("a document without a name") : leftover.path;
 }
 
 } // namespace
@@ -31,6 +48,7 @@ ApplicationWindows::ApplicationWindows(AppController& controller, Defaults& defa
     connect(&_controller, &AppController::documentOpened, this,
             [this](MyDocument* document) { addWindow(*document); });
     connect(&_controller, &AppController::openFailed, this, &ApplicationWindows::showFailure);
+    connect(&_controller, &AppController::recoveryFailed, this, &ApplicationWindows::tellRefused);
     connect(&_controller.recovery(), &DocumentRecovery::failed, this,
             [this](const MyDocument* document, const QString& reason) {
                 if (auto* window = windowOf(*document))
@@ -62,18 +80,20 @@ void ApplicationWindows::addWindow(MyDocument& document)
         std::erase(_mainWindows, window);
         _controller.closeDocument(document);
     });
-    if (_mainWindows.size() > 1)
-        window->move(_mainWindows[_mainWindows.size() - 2]->pos() + QPoint(30, 30));
+    connect(window, &MainWindowController::activated, this, [this, window] { _lastInFront = window; });
+    _lastInFront = window;
+    qCDebug(lcUi, "windowControllerDidLoadNib");
     window->show();
-    if (_startWindow)
+    if (_startWindow) {
+        window->showMessage((_startWindow->message() + u' ' + window->message()).trimmed());
         _startWindow->close();
+    }
 }
 
 MainWindowController* ApplicationWindows::windowInFront() const
 {
-    const auto active = std::ranges::find_if(_mainWindows, &QWidget::isActiveWindow);
-    if (active != _mainWindows.end())
-        return *active;
+    if (_lastInFront)
+        return _lastInFront;
     return _mainWindows.empty() ? nullptr : _mainWindows.back();
 }
 
@@ -93,6 +113,58 @@ void ApplicationWindows::bringToFront(QWidget& window)
     window.activateWindow();
 }
 
+// What a crash has left
+
+void ApplicationWindows::offerLeftovers()
+{
+    const auto refused = _controller.recovery().refusedLeftovers();
+    for (const auto& leftover : refused)
+        tellRefused(leftover, leftover.refusal);
+    const auto leftovers = _controller.recovery().leftovers();
+    for (const auto& leftover : leftovers)
+        offerLeftover(leftover);
+}
+
+void ApplicationWindows::offerLeftover(const Leftover& leftover)
+{
+    const auto tours = counted(leftover.tours, tr("1 tour"), tr("%1 tours"));
+    const auto date = QLocale().toString(leftover.written.toLocalTime(), QLocale::ShortFormat);
+    auto kept = tr("The document as it was on %1, with %2, was kept.").arg(date, tours);
+    if (!leftover.fileChange.isEmpty())
+        kept += u' ' + tr("Meanwhile %1.").arg(leftover.fileChange);
+    Sheet sheet(nullptr, QMessageBox::Question,
+                tr("ridelog ended before %1 was saved.").arg(nameOf(leftover)), kept);
+    const QAbstractButton* recover = sheet.addButton(tr("&Recover"), QMessageBox::AcceptRole);
+    const QAbstractButton* discard = sheet.addButton(tr("&Discard"), QMessageBox::DestructiveRole);
+    sheet.addButton(tr("Ask Me &Later"), QMessageBox::RejectRole);
+    sheet.exec();
+    if (sheet.clickedButton() == recover)
+        _controller.recoverDocument(leftover);
+    else if (sheet.clickedButton() == discard)
+        discardLeftover(leftover);
+}
+
+void ApplicationWindows::tellRefused(const Leftover& leftover, const QString& reason)
+{
+    Sheet sheet(nullptr, QMessageBox::Warning,
+                tr("What ridelog kept of %1 could not be recovered.").arg(nameOf(leftover)),
+                tr("%1\n\nIt is in %2, and stays there until it is discarded.")
+                    .arg(reason, QDir::toNativeSeparators(leftover.folder)));
+    const QAbstractButton* discard = sheet.addButton(tr("&Discard"), QMessageBox::DestructiveRole);
+    sheet.setDefaultButton(sheet.addButton(tr("&Keep"), QMessageBox::RejectRole));
+    sheet.exec();
+    if (sheet.clickedButton() == discard)
+        discardLeftover(leftover);
+}
+
+void ApplicationWindows::discardLeftover(const Leftover& leftover)
+{
+    if (const auto error = _controller.recovery().discard(leftover))
+        Sheet(nullptr, QMessageBox::Warning,
+              tr("What was kept of %1 was not discarded.").arg(nameOf(leftover)), *error)
+            .exec();
+}
+
 // Opening
 
 void ApplicationWindows::start(const QStringList& paths)
@@ -106,61 +178,49 @@ void ApplicationWindows::start(const QStringList& paths)
         _controller.newDocument();
 }
 
-void ApplicationWindows::offerLeftovers()
+void ApplicationWindows::takeFiles(const QStringList& paths, QWidget* over)
 {
-    const auto leftovers = _controller.recovery().leftovers();
-    for (const auto& leftover : leftovers) {
-        const auto name = leftover.path.isEmpty() ? tr("a document without a name") : leftover.path;
-        QMessageBox box(QMessageBox::Question, QString(), tr("ridelog ended before %1 was saved.").arg(name));
-        const auto tours = counted(leftover.tours, tr("1 tour"), tr("%1 tours"));
-        const auto date = QLocale().toString(leftover.written, QLocale::ShortFormat);
-        auto kept = tr("The document as it was on %1, with %2, was kept.").arg(date, tours);
-        if (!leftover.fileChange.isEmpty())
-            kept += u' ' + tr("Meanwhile %1.").arg(leftover.fileChange);
-        box.setInformativeText(kept);
-        box.setTextFormat(Qt::PlainText);
-        const QAbstractButton* recover = box.addButton(tr("&Recover"), QMessageBox::AcceptRole);
-        const QAbstractButton* discard = box.addButton(tr("&Discard"), QMessageBox::DestructiveRole);
-        box.addButton(tr("Ask Me &Later"), QMessageBox::RejectRole);
-        box.exec();
-        if (box.clickedButton() == recover)
-            _controller.recoverDocument(leftover);
-        else if (box.clickedButton() == discard)
-            _controller.recovery().discard(leftover);
-    }
-}
-
-void ApplicationWindows::takeFiles(const QStringList& paths)
-{
+    _failures.clear();
+    auto* target = qobject_cast<MainWindowController*>(over);
+    if (!target)
+        target = windowInFront();
     QStringList dumps;
     for (const auto& path : paths) {
-        if (MyDocument::isDocumentFile(path) || !QFileInfo(path).isFile())
-            openDocument(path, windowInFront());
-        else
+        if (!isToBeOpened(path))
             dumps << path;
+        else if (auto* opened = open(path, target))
+            target = opened;
     }
-    if (_mainWindows.empty() && !_startWindow)
-        _controller.newDocument();
-    for (const auto& dump : std::as_const(dumps)) {
-        if (auto* window = windowInFront())
-            window->importDump(dump);
-    }
-    if (auto* window = windowInFront())
-        bringToFront(*window);
+    const bool isNothingToShow = _mainWindows.empty() && !_startWindow;
+    if (!target && (!dumps.isEmpty() || isNothingToShow))
+        target = windowOf(_controller.newDocument());
+    if (!dumps.isEmpty())
+        target->importDumps(dumps, _failures);
+    else if (target && !_failures.isEmpty())
+        target->showMessage(_failures.join(u' '));
+    if (target)
+        bringToFront(*target);
+    else if (_startWindow)
+        bringToFront(*_startWindow);
 }
 
-void ApplicationWindows::openDocument(const QString& path, QWidget* over)
+void ApplicationWindows::openDocument(const QString& path, MainWindowController* over)
+{
+    _failures.clear();
+    open(path, over);
+}
+
+MainWindowController* ApplicationWindows::open(const QString& path, MainWindowController* over)
 {
     const auto* document = _controller.openDocument(path);
     if (!document)
-        return;
-    if (auto* window = windowOf(*document))
-        bringToFront(*window);
-    // A window that asks something right now stays.
-    if (auto* replaced = qobject_cast<MainWindowController*>(over);
-        replaced && !QApplication::activeModalWidget() && &replaced->myDocument() != document &&
-        isUntouched(replaced->myDocument()))
-        replaced->close();
+        return nullptr;
+    auto* window = windowOf(*document);
+    bringToFront(*window);
+    _lastInFront = window;
+    if (over && over != window && isUntouched(*over))
+        over->close();
+    return window;
 }
 
 void ApplicationWindows::askForDocument(QWidget* over)
@@ -169,18 +229,19 @@ void ApplicationWindows::askForDocument(QWidget* over)
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setFileMode(QFileDialog::ExistingFile);
     panel->setNameFilters({tr("Tours (*.%1)").arg(MyDocument::extension), tr("All files (*)")});
-    connect(panel, &QFileDialog::fileSelected, this, [this, over = QPointer(over)](const QString& path) {
-        if (MyDocument::isDocumentFile(path) || !qobject_cast<MainWindowController*>(over))
-            openDocument(path, over);
-        else
-            qobject_cast<MainWindowController*>(over)->importDump(path);
-    });
+    // When the panel has gone: it lies over a window that may go as well.
+    connect(
+        panel, &QFileDialog::fileSelected, this,
+        [this, over = QPointer(over)](const QString& path) { takeFiles({path}, over); },
+        Qt::QueuedConnection);
     panel->open();
 }
 
 void ApplicationWindows::showFailure(const QString& path, const QString& reason)
 {
-    const auto message = tr("%1 could not be opened: %2").arg(path, reason);
+    // Of several files the last one is not the only one to be told of.
+    _failures << tr("%1 could not be opened: %2").arg(path, reason);
+    const auto message = _failures.join(u' ');
     if (auto* window = windowInFront()) {
         window->showMessage(message);
         return;

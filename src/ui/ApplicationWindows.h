@@ -19,6 +19,7 @@ class AppController;
 class Defaults;
 class MainWindowController;
 class MyDocument;
+struct Leftover;
 class XMLUpdater;
 
 /// The windows of the application: a main window for each open document, or the start window while there is
@@ -40,12 +41,14 @@ public:
 
     /// Begins with what a crash has left, then with these files, or as AppController has it.
     void start(const QStringList& paths);
-    /// Opens documents, and imports dumps into the document in front. Without files it comes to the front.
-    void takeFiles(const QStringList& paths);
+    /// Opens documents, and imports dumps into the one opened last; without one into that of `over`, or else
+    /// into the one that was last in front. Without files that comes to the front.
+    void takeFiles(const QStringList& paths, QWidget* over = nullptr);
 
-    /// Opens a document, and lets go of an untouched new one that `over` shows. What goes wrong is said
-    /// there.
-    void openDocument(const QString& path, QWidget* over);
+    /// Opens a document, and closes `over` if that shows a new one that nobody has touched. What goes wrong
+    /// is said in the window in front, or in the start window.
+    void openDocument(const QString& path, MainWindowController* over = nullptr);
+    /// Asks for a document to open, or a dump to import.
     void askForDocument(QWidget* over);
     /// Looks for newer versions there and not where the build says.
     void setUpdateUrl(const QString& url) { _updateUrl = url; }
@@ -62,7 +65,12 @@ public:
 private:
     /// Asks about what earlier runs did not come to save.
     void offerLeftovers();
+    void offerLeftover(const Leftover& leftover);
+    void tellRefused(const Leftover& leftover, const QString& reason);
+    void discardLeftover(const Leftover& leftover);
     void addWindow(MyDocument& document);
+    /// Its window, or none if it could not be opened.
+    MainWindowController* open(const QString& path, MainWindowController* over);
     MainWindowController* windowInFront() const;
     MainWindowController* windowOf(const MyDocument& document) const;
     XMLUpdater& newUpdater(QWidget& over) const;
@@ -73,7 +81,9 @@ private:
     SimulatedDevice _simulatedDevice;
     std::optional<QString> _updateUrl;
     std::vector<MainWindowController*> _mainWindows;
+    QPointer<MainWindowController> _lastInFront;
     QPointer<StartWindow> _startWindow;
+    QStringList _failures; ///< to open the documents asked for last
 };
 
 } // namespace ridelog

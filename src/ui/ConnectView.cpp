@@ -5,6 +5,7 @@
 #include "ui/BusySpinner.h"
 #include "ui/SimulatedDevice.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -44,14 +45,11 @@ ConnectView::ConnectView(SimulatedDevice& simulatedDevice, QWidget* parent)
     _progressIndicatorBar->setAccessibleName(tr("Progress of the transfer"));
     _state->setWordWrap(true);
     _state->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    _state->setAccessibleName(tr("State of the transfer"));
+    _state->setTextFormat(Qt::PlainText);
     auto* help =
         new QLabel(tr("Press Connect, wait for the line above to say that it is waiting, and then start "
                       "sending from the device's own menu. A transfer takes about 85 seconds."));
     help->setWordWrap(true);
-    auto font = help->font();
-    font.setPointSizeF(font.pointSizeF() * 0.9);
-    help->setFont(font);
 
     auto* portLabel = new QLabel(tr("Serial &port:"));
     portLabel->setBuddy(_portsPopUp);
@@ -106,7 +104,7 @@ void ConnectView::refreshPorts()
     for (int index = 0; index < _portsPopUp->count(); ++index)
         shown << _portsPopUp->itemData(index).toString();
     // An open list must not be changed under the hand that chooses from it.
-    if (paths == shown)
+    if (paths == shown || _portsPopUp->view()->isVisible())
         return;
     const auto selected = selectedPort();
     _portsPopUp->clear();

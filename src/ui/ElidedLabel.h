@@ -18,7 +18,7 @@ public:
     void setText(const QString& text)
     {
         QLabel::setText(text);
-        setToolTip(text.toHtmlEscaped());
+        setToolTip(text.isEmpty() ? text : QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()));
     }
 
 protected:

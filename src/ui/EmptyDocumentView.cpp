@@ -1,5 +1,6 @@
 #include "ui/EmptyDocumentView.h"
 
+#include <QFontInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -11,7 +12,7 @@ EmptyDocumentView::EmptyDocumentView(QWidget* parent) : QWidget(parent)
 {
     auto* heading = new QLabel(tr("No tours yet"));
     auto font = heading->font();
-    font.setPointSizeF(font.pointSizeF() * 1.6);
+    font.setPointSizeF(QFontInfo(font).pointSizeF() * 1.6);
     heading->setFont(font);
     heading->setAlignment(Qt::AlignCenter);
     auto* text = new QLabel(tr("Take them from your cycle computer, or import a raw dump of its memory. You "
@@ -20,7 +21,7 @@ EmptyDocumentView::EmptyDocumentView(QWidget* parent) : QWidget(parent)
     text->setWordWrap(true);
     text->setFixedWidth(420);
 
-    auto* connectDevice = new QPushButton(tr("Connect &Device"));
+    auto* connectDevice = new QPushButton(tr("Connect De&vice"));
     auto* importDump = new QPushButton(tr("&Import Dump…"));
     connect(connectDevice, &QPushButton::clicked, this, &EmptyDocumentView::connectDeviceRequested);
     connect(importDump, &QPushButton::clicked, this, &EmptyDocumentView::importDumpRequested);

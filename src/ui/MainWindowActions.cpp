@@ -28,13 +28,43 @@
 #include <QToolBar>
 #include <QUrl>
 
+#include <algorithm>
+#include <functional>
+#include <utility>
+
 namespace ridelog {
+namespace {
+
+/// A submenu that is filled when it is opened.
+void addFilledMenu(QMenu& menu, const QString& title, std::function<void(QMenu&)> fill)
+{
+    auto* filled = menu.addMenu(title);
+    QObject::connect(filled, &QMenu::aboutToShow, filled, [filled, fill = std::move(fill)] {
+        filled->clear();
+        fill(*filled);
+    });
+}
+
+/// An entry that its number chooses, as far as the digits go. An ampersand in a name is none of the menu's.
+QString numbered(qsizetype index, QString name)
+{
+    name.replace(u'&', QStringLiteral("&&"));
+    return index < 9 ? QStringLiteral("&%1  %2").arg(QString::number(index + 1), name) : name;
+}
+
+} // namespace
 
 QAction* MainWindowController::addAction(QMenu& menu, const QString& text, const QKeySequence& keys,
                                          void (MainWindowController::*slot)())
 {
-    auto* action = menu.addAction(text, this, slot);
+    auto* action = menu.addAction(text);
     action->setShortcut(keys);
+    connect(action, &QAction::triggered, this, [this, slot] {
+        finishEditing();
+        // What the last action led to has been read.
+        showMessage({});
+        (this->*slot)();
+    });
     return action;
 }
 
@@ -62,7 +92,7 @@ void MainWindowController::makeFileMenu()
     menu.addSeparator();
     _saveAction = addAction(menu, tr("&Save"), QKeySequence::Save, &Window::saveDocument);
     addAction(menu, tr("Save &As…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S, &Window::saveDocumentAs);
-    _revertAction = addAction(menu, tr("Re&vert"), {}, &Window::revertDocument);
+    _revertAction = addAction(menu, tr("Re&vert"), Qt::Key_F5, &Window::revertDocument);
     menu.addSeparator();
     auto* closeAction = menu.addAction(tr("&Close"), this, &QWidget::close);
     closeAction->setShortcut(QKeySequence::Close);
@@ -80,7 +110,7 @@ void MainWindowController::makeEditMenu()
     menu.addSeparator();
     _removeAction = addAction(menu, tr("Re&move Tour"), Qt::Key_Delete, &Window::deleteSelectedTour);
     _restoreAction =
-        addAction(menu, tr("Re&store Tour"), Qt::SHIFT | Qt::Key_Delete, &Window::undeleteSelectedTour);
+        addAction(menu, tr("Re&store Tour"), Qt::CTRL | Qt::Key_Delete, &Window::undeleteSelectedTour);
     _showRemovedAction = menu.addAction(tr("S&how Removed Tours"));
     _showRemovedAction->setCheckable(true);
     _showRemovedAction->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_R);
@@ -95,6 +125,7 @@ void MainWindowController::makeEditMenu()
         auto* action =
             units.addAction(miles ? tr("&Miles, mph and Feet") : tr("&Kilometres, km/h and Metres"));
         action->setCheckable(true);
+        action->setShortcut(Qt::CTRL | Qt::SHIFT | (miles ? Qt::Key_M : Qt::Key_K));
         group->addAction(action);
         const auto check = [this, action, miles] {
             action->setChecked(_defaults.boolForKey(DefaultsKeys::useMiles) == miles);
@@ -104,7 +135,11 @@ void MainWindowController::makeEditMenu()
         connect(action, &QAction::triggered, this,
                 [this, miles] { _defaults.setValue(DefaultsKeys::useMiles, miles); });
     }
-    // The actions that the keys of the table mean as well.
+    addFilledMenu(menu, tr("&Columns"), [this](QMenu& columns) { _tableView->fillColumnsMenu(columns); });
+    addFilledMenu(menu, tr("Sort &By"), [this](QMenu& orders) { _tableView->fillOrderMenu(orders); });
+    // In a text field, and in the drawer, Delete means something else.
+    for (auto* action : {_removeAction, _restoreAction})
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     _tableView->addActions({_removeAction, _restoreAction});
 }
 
@@ -134,11 +169,8 @@ void MainWindowController::makeDeviceMenu()
     _simulatedDeviceAction = addAction(menu, tr("Simulated De&vice"), Qt::CTRL | Qt::SHIFT | Qt::Key_D,
                                        &Window::toggleSimulatedDevice);
     _simulatedDeviceAction->setCheckable(true);
-    const auto check = [this] {
-        _simulatedDeviceAction->setChecked(_windows.simulatedDevice().isPluggedIn());
-    };
-    check();
-    connect(&_windows.simulatedDevice(), &SimulatedDevice::changed, this, check);
+    showSimulatedDevice();
+    connect(&_windows.simulatedDevice(), &SimulatedDevice::changed, this, &Window::showSimulatedDevice);
     connect(&_connectView->connectButton(), &QPushButton::clicked, this, &Window::connectToOdo);
 }
 
@@ -151,10 +183,13 @@ void MainWindowController::makeWindowMenu()
 void MainWindowController::makeHelpMenu()
 {
     auto& menu = *menuBar()->addMenu(tr("&Help"));
-    addAction(menu, tr("&Check for Updates…"), {}, &MainWindowController::checkForUpdates);
-    addAction(menu, tr("Send &Feedback…"), {}, &MainWindowController::sendFeedback);
+    addAction(menu, tr("&Check for Updates…"), Qt::CTRL | Qt::SHIFT | Qt::Key_U,
+              &MainWindowController::checkForUpdates);
+    addAction(menu, tr("Send &Feedback…"), Qt::CTRL | Qt::SHIFT | Qt::Key_F,
+              &MainWindowController::sendFeedback);
     menu.addSeparator();
-    auto* about = addAction(menu, tr("&About ridelog"), {}, &MainWindowController::showAbout);
+    auto* about =
+        addAction(menu, tr("&About ridelog"), Qt::CTRL | Qt::Key_F1, &MainWindowController::showAbout);
     about->setMenuRole(QAction::AboutRole);
 }
 
@@ -191,9 +226,9 @@ void MainWindowController::fillRecentMenu()
     const auto paths = _windows.controller().recentDocuments();
     for (const auto& path : paths) {
         const QFileInfo file(path);
-        // An ampersand in a name is none of the menu's.
-        auto name = QStringLiteral("%1  (%2)").arg(file.fileName(), QDir::toNativeSeparators(file.path()));
-        auto* action = _recentMenu->addAction(name.replace(u'&', QStringLiteral("&&")));
+        const auto name =
+            QStringLiteral("%1  (%2)").arg(file.fileName(), QDir::toNativeSeparators(file.path()));
+        auto* action = _recentMenu->addAction(numbered(_recentMenu->actions().size(), name));
         connect(action, &QAction::triggered, this, [this, path] { _windows.openDocument(path, this); });
     }
     if (paths.isEmpty())
@@ -204,8 +239,8 @@ void MainWindowController::fillWindowMenu()
 {
     _windowMenu->clear();
     for (auto* window : _windows.mainWindows()) {
-        auto title = window->windowTitle().remove(QStringLiteral("[*]"));
-        auto* action = _windowMenu->addAction(title.replace(u'&', QStringLiteral("&&")));
+        auto* action =
+            _windowMenu->addAction(numbered(_windowMenu->actions().size(), window->documentName()));
         action->setCheckable(true);
         action->setChecked(window == this);
         connect(action, &QAction::triggered, window, [window] { ApplicationWindows::bringToFront(*window); });
@@ -214,29 +249,37 @@ void MainWindowController::fillWindowMenu()
 
 // What they do
 
-/// Text that is still being edited counts.
 void MainWindowController::finishEditing()
 {
-    if (auto* editor = QApplication::focusWidget(); editor && _tableView->isAncestorOf(editor))
-        _tableView->setFocus();
+    _tableView->finishEditing();
 }
 
 void MainWindowController::undo()
 {
-    finishEditing();
     _document.undoManager().undo();
 }
 
 void MainWindowController::redo()
 {
-    finishEditing();
     _document.undoManager().redo();
+}
+
+qsizetype MainWindowController::removedInSelection() const
+{
+    const auto selection = _tourController.selection();
+    return std::ranges::count_if(selection, [](const auto& tour) { return tour->removed(); });
 }
 
 void MainWindowController::deleteSelectedTour()
 {
-    const auto count = static_cast<qsizetype>(_tourController.selection().size());
+    if (_tourController.selectedRows().empty())
+        return;
+    const auto count = static_cast<qsizetype>(_tourController.selectedRows().size()) - removedInSelection();
+    const auto row = _tourController.selectedRows().front();
     _tourController.deleteSelectedTours();
+    // The next one, so that Delete can go on.
+    if (_tourController.selectedRows().empty())
+        _tourController.selectRow(row);
     showMessage(counted(count, tr("1 tour removed."), tr("%1 tours removed.")) + u' ' +
                 tr("What is removed stays in the document: see Edit > Show Removed Tours."));
     tableViewSelectionDidChange();
@@ -244,7 +287,7 @@ void MainWindowController::deleteSelectedTour()
 
 void MainWindowController::undeleteSelectedTour()
 {
-    const auto count = static_cast<qsizetype>(_tourController.selection().size());
+    const auto count = removedInSelection();
     _tourController.undeleteSelectedTours();
     showMessage(counted(count, tr("1 tour restored."), tr("%1 tours restored.")));
     tableViewSelectionDidChange();
@@ -252,6 +295,8 @@ void MainWindowController::undeleteSelectedTour()
 
 void MainWindowController::showRemoved(bool show)
 {
+    finishEditing();
+    showMessage({});
     _tourController.setFilterDeletedItems(!show);
     _tourController.rearrangeObjects();
 }
@@ -275,6 +320,11 @@ void MainWindowController::editTitle()
     _tableView->editTitle();
 }
 
+void MainWindowController::showSimulatedDevice()
+{
+    _simulatedDeviceAction->setChecked(_windows.simulatedDevice().isPluggedIn());
+}
+
 void MainWindowController::toggleSimulatedDevice()
 {
     auto& device = _windows.simulatedDevice();
@@ -283,15 +333,19 @@ void MainWindowController::toggleSimulatedDevice()
         return;
     }
     if (const auto error = device.plugIn()) {
+        showSimulatedDevice();
         showMessage(tr("There is no simulated device: %1").arg(*error));
         return;
     }
     if (_connectDrawer->isHidden())
         toggleConnectDrawer();
+    // Who waits in vain for another device is to have this one.
+    if (isConnected() && _odoCom->odoData().isEmpty())
+        endSession();
     if (isConnected())
         return;
     _connectView->selectPort(device.path());
-    showMessage(tr("The simulated device is plugged in. Press Connect to take its tours."));
+    tell(tr("The simulated device is plugged in. Press Connect to take its tours."));
 }
 
 void MainWindowController::checkForUpdates()

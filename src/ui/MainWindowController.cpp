@@ -16,6 +16,7 @@
 #include "ui/UiLog.h"
 #include "ui/WindowFrame.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QDockWidget>
 #include <QFileInfo>
@@ -45,7 +46,7 @@ QLabel* addField(QHBoxLayout& layout, const QString& name)
     layout.addWidget(new QLabel(name));
     auto* field = new QLabel;
     field->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    field->setAccessibleName(name);
+    field->setFocusPolicy(Qt::StrongFocus);
     auto font = field->font();
     font.setBold(true);
     field->setFont(font);
@@ -55,9 +56,24 @@ QLabel* addField(QHBoxLayout& layout, const QString& name)
 
 } // namespace
 
+int MainWindowController::unusedNumber(const ApplicationWindows& windows)
+{
+    const auto others = windows.mainWindows();
+    int number = 1;
+    while (std::ranges::count_if(others, [number](const auto* other) {
+        return other->_document.path().isEmpty() && other->_untitledNumber == number;
+    }))
+        ++number;
+    return number;
+}
+
 MainWindowController::MainWindowController(ApplicationWindows& windows, MyDocument& document,
                                            Defaults& defaults)
-    : _windows(windows), _document(document), _defaults(defaults), _tourController(document)
+    : _windows(windows),
+      _document(document),
+      _defaults(defaults),
+      _tourController(document),
+      _untitledNumber(unusedNumber(windows))
 {
     qCDebug(lcUi, "-- awakeFromNib --");
     setAcceptDrops(true);
@@ -74,12 +90,12 @@ MainWindowController::MainWindowController(ApplicationWindows& windows, MyDocume
     _splitter->addWidget(_chartView->parentWidget());
     _splitter->setStretchFactor(0, 3);
     _splitter->setStretchFactor(1, 2);
+    _splitter->setSizes({3000, 2000});
     setCentralWidget(_splitter);
     makeConnectDrawer();
     makeActions();
 
     _message = new ElidedLabel;
-    _message->setAccessibleName(tr("Message"));
     _summary = new QLabel;
     statusBar()->addWidget(_message, 1);
     statusBar()->addPermanentWidget(_summary);
@@ -92,7 +108,12 @@ MainWindowController::MainWindowController(ApplicationWindows& windows, MyDocume
     connect(&_tourController, &TourArrayController::selectionChanged, this,
             &MainWindowController::tableViewSelectionDidChange);
     connect(&_tourController, &TourArrayController::rearranged, this, &MainWindowController::showTours);
-    connect(&_tourController, &TourArrayController::tourChanged, this, [this](int) { showSelectedTour(); });
+    _tourChanges.setSingleShot(true);
+    connect(&_tourController, &TourArrayController::tourChanged, &_tourChanges, qOverload<>(&QTimer::start));
+    _tourChanges.callOnTimeout(this, [this] {
+        showSelectedTour();
+        enableActions();
+    });
     connect(&_document, &MyDocument::toursArrayChanged, this, &MainWindowController::showTours);
     connect(&_document.undoManager(), &UndoManager::changed, this, &MainWindowController::showUndo);
     connect(&_document.undoManager(), &UndoManager::cleanChanged, this, &MainWindowController::showTitle);
@@ -110,7 +131,7 @@ MainWindowController::MainWindowController(ApplicationWindows& windows, MyDocume
 
 MainWindowController::~MainWindowController()
 {
-    endSession();
+    stopTransfer();
     storeWindow();
     // They speak to this window and to its list for as long as they live.
     delete _connectDrawer;
@@ -137,7 +158,6 @@ void MainWindowController::makeTable()
 void MainWindowController::makeChart()
 {
     _tourField = new ElidedLabel;
-    _tourField->setAccessibleName(tr("Selected tour"));
     _tourLine = new QWidget;
     auto* line = new QHBoxLayout(_tourLine);
     line->setContentsMargins(8, 4, 8, 0);
@@ -181,6 +201,9 @@ void MainWindowController::restoreWindow()
 
 void MainWindowController::storeWindow()
 {
+    // The selected row is one of the list as the next start shows it.
+    _searchField->clear();
+    _showRemovedAction->setChecked(false);
     storeFrame(*this, _defaults, DefaultsKeys::mainWindowFrame);
     _defaults.setValue(DefaultsKeys::mainWindowState, saveState());
     _defaults.setValue(DefaultsKeys::mainSplitter, _splitter->saveState());
@@ -207,15 +230,20 @@ void MainWindowController::tableViewSelectionDidChange()
     showSelectedTour();
 }
 
+std::shared_ptr<const OdoTour> MainWindowController::shownTour() const
+{
+    return std::dynamic_pointer_cast<const OdoTour>(_chartView->dataProvider());
+}
+
 void MainWindowController::showSelectedTour()
 {
-    const auto tour = std::dynamic_pointer_cast<const OdoTour>(_chartView->dataProvider());
+    const auto tour = shownTour();
     _tourLine->setVisible(tour != nullptr);
     if (!tour)
         return;
     const auto date = QLocale().toString(tour->date(), QLocale::ShortFormat);
-    _tourField->setText(
-        tour->title() == OdoTour::untitled() ? date : QStringLiteral("%1 – %2").arg(tour->title(), date));
+    const auto title = tour->shownTitle();
+    _tourField->setText(title.isEmpty() ? date : QStringLiteral("%1 – %2").arg(title, date));
     _distanceField->setText(
         UnitFormatters::mainDistance(_defaults).stringForObjectValue(tour->totalDistance()));
     _speedField->setText(UnitFormatters::mainSpeed(_defaults).stringForObjectValue(tour->avgSpeed()));
@@ -233,7 +261,14 @@ void MainWindowController::configureFormatters()
 
 void MainWindowController::showTours()
 {
-    _tableOrHint->setCurrentIndex(_document.toursArray().empty() ? 1 : 0);
+    const auto& tours = _document.toursArray();
+    _tableOrHint->setCurrentIndex(tours.empty() ? 1 : 0);
+    // The chart keeps a tour that is not listed any more, but none that has left the document.
+    if (shownTour() && !std::ranges::count(tours, shownTour())) {
+        _chartView->setDataProvider(nullptr);
+        _chartView->update();
+        showSelectedTour();
+    }
     // A selected tour keeps its selection when rows move, but not its row.
     if (_tourController.selectedTour())
         _defaults.setValue(DefaultsKeys::selectedRow, _tourController.selectedRows().front());
@@ -243,8 +278,6 @@ void MainWindowController::showTours()
 
 void MainWindowController::showSummary()
 {
-    if (!_summary)
-        return;
     const auto& tours = _tourController.arrangedObjects();
     const auto kilometres =
         std::accumulate(tours.begin(), tours.end(), 0.0, [](double sum, const auto& tour) {
@@ -257,16 +290,20 @@ void MainWindowController::showSummary()
 
 QString MainWindowController::documentName() const
 {
-    return _document.path().isEmpty() ? tr("Untitled") : QFileInfo(_document.path()).fileName();
+    if (!_document.path().isEmpty())
+        return QFileInfo(_document.path()).fileName();
+    return _untitledNumber == 1 ? tr("Untitled") : tr("Untitled %1").arg(_untitledNumber);
 }
 
 void MainWindowController::showTitle()
 {
     const auto name = _document.isReadOnly() ? tr("%1 (read-only)").arg(documentName()) : documentName();
-    setWindowTitle(QStringLiteral("%1[*]").arg(name));
+    // What marks the place for the mark of changes, in a file's name it is to be seen.
+    setWindowTitle(QString(name).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")) +
+                   QStringLiteral("[*]"));
     setWindowFilePath(_document.path());
     setWindowModified(_document.isChanged());
-    _revertAction->setEnabled(_document.isChanged() && !_document.path().isEmpty());
+    _revertAction->setEnabled(!_document.path().isEmpty());
 }
 
 void MainWindowController::showUndo()
@@ -282,11 +319,8 @@ void MainWindowController::showUndo()
 
 void MainWindowController::enableActions()
 {
-    if (!_removeAction)
-        return;
-    const auto selection = _tourController.selection();
-    const auto removed = std::ranges::count_if(selection, [](const auto& tour) { return tour->removed(); });
-    _removeAction->setEnabled(removed < static_cast<std::ptrdiff_t>(selection.size()));
+    const auto removed = removedInSelection();
+    _removeAction->setEnabled(removed < static_cast<qsizetype>(_tourController.selectedRows().size()));
     _restoreAction->setEnabled(removed > 0);
     _editTitleAction->setEnabled(_tourController.selectedTour() != nullptr);
 }
@@ -299,6 +333,17 @@ QString MainWindowController::message() const
 void MainWindowController::showMessage(const QString& message)
 {
     _message->setText(message);
+    if (!message.isEmpty()) {
+        QAccessibleEvent announcement(_message, QAccessible::Alert);
+        QAccessible::updateAccessibility(&announcement);
+    }
+}
+
+void MainWindowController::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        Q_EMIT activated();
 }
 
 } // namespace ridelog

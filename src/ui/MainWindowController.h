@@ -6,6 +6,7 @@
 
 #include <QElapsedTimer>
 #include <QMainWindow>
+#include <QTimer>
 
 #include <memory>
 #include <optional>
@@ -13,6 +14,7 @@
 QT_BEGIN_NAMESPACE
 class QAction;
 class QComboBox;
+class QDialog;
 class QLabel;
 class QLineEdit;
 class QMenu;
@@ -28,6 +30,7 @@ class ChartArrayView;
 class ConnectView;
 class Defaults;
 class ElidedLabel;
+class Sheet;
 class TourTableModel;
 class TourTableView;
 
@@ -59,12 +62,11 @@ public:
 
     // Tours
 
-    /// Merges a raw dump into the document.
-    void importDump(const QString& path);
+    /// Merges raw dumps into the document, and says what came of it after what is told already.
+    void importDumps(const QStringList& paths, QStringList told = {});
+    void importDump(const QString& path) { importDumps({path}); }
     /// Asks for a raw dump to import.
     void importFile();
-    /// Imports a raw dump, or opens a document, whichever the file is.
-    void takeFile(const QString& path);
 
     // The transfer
 
@@ -79,14 +81,22 @@ public:
     bool saveAs();
     /// Saves or gives up unsaved changes, as the user wants. False if the document is to stay.
     bool mayClose();
+    /// Whether a question over this window waits for its answer.
+    bool isAsking() const { return _isAsking; }
+
+Q_SIGNALS:
+    /// It is the one the rider works with.
+    void activated();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
 private:
     // Set-up
+    static int unusedNumber(const ApplicationWindows& windows);
     void makeTable();
     void makeChart();
     void makeConnectDrawer();
@@ -106,6 +116,8 @@ private:
     // What it shows
     void tableViewSelectionDidChange();
     void showSelectedTour();
+    /// The tour that the chart shows; none at first.
+    std::shared_ptr<const OdoTour> shownTour() const;
     void configureFormatters();
     void showTours();
     void showSummary();
@@ -133,11 +145,15 @@ private:
     void sendFeedback();
     void showAbout();
     void toggleSimulatedDevice();
+    void showSimulatedDevice();
     void finishEditing();
+    qsizetype removedInSelection() const;
 
     // The transfer
     void connectToOdo(bool connected);
     void openPort();
+    void storePort();
+    QString receivingText() const;
     void endSession();
     void setConnected(bool connected);
     void fillPorts();
@@ -153,8 +169,13 @@ private:
     // Files
     bool refuseReadOnly();
     bool askWhetherToOverwrite();
+    int ask(QDialog& question);
+    /// Whether this button answers the question, and not Cancel, which is meant by Return.
+    bool agrees(Sheet& sheet, const QString& button);
     void showError(const QString& what, const QString& reason);
     QString documentName() const;
+    QString importedFrom(const QString& path);
+    bool mayEndTransfer();
 
     ApplicationWindows& _windows;
     MyDocument& _document;
@@ -195,6 +216,9 @@ private:
     std::unique_ptr<OdoCom> _odoCom; ///< none while not connected
     bool _isSimulated = false;       ///< made-up rides: they take no real dump's place at home
     QElapsedTimer _sinceFirstBytes;
+    QTimer _tourChanges; ///< follows what happened to many tours at once, once
+    bool _isAsking = false;
+    int _untitledNumber; ///< tells windows of new documents apart
 };
 
 } // namespace ridelog

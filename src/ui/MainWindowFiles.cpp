@@ -3,39 +3,23 @@
 #include "library/AppController.h"
 #include "ui/ApplicationWindows.h"
 #include "ui/Counted.h"
+#include "ui/DroppedFiles.h"
 #include "ui/MainWindowController.h"
+#include "ui/Sheet.h"
 #include "ui/TourTableView.h"
 
 #include <QCloseEvent>
 #include <QDir>
 #include <QDropEvent>
-#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
+#include <QLineEdit>
+#include <QLocale>
 #include <QMimeData>
 #include <QPushButton>
-#include <QUrl>
-
-#include <algorithm>
+#include <QScopedValueRollback>
 
 namespace ridelog {
-namespace {
-
-/// The local files that something dragged here consists of; none if one of them is something else.
-QStringList localFiles(const QMimeData& dragged)
-{
-    QStringList paths;
-    const auto urls = dragged.urls();
-    for (const auto& url : urls) {
-        if (!url.isLocalFile())
-            return {};
-        paths << url.toLocalFile();
-    }
-    return paths;
-}
-
-} // namespace
 
 // Opening
 
@@ -49,14 +33,6 @@ void MainWindowController::openDocument()
     _windows.askForDocument(this);
 }
 
-void MainWindowController::takeFile(const QString& path)
-{
-    if (MyDocument::isDocumentFile(path))
-        _windows.openDocument(path, this);
-    else
-        importDump(path);
-}
-
 // Importing
 
 void MainWindowController::importFile()
@@ -65,50 +41,75 @@ void MainWindowController::importFile()
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setFileMode(QFileDialog::ExistingFile);
     panel->setLabelText(QFileDialog::Accept, tr("Import"));
-    connect(panel, &QFileDialog::fileSelected, this, &MainWindowController::importDump);
+    connect(panel, &QFileDialog::fileSelected, this, [this](const QString& path) { importDumps({path}); });
     panel->open();
 }
 
-void MainWindowController::importDump(const QString& path)
+/// What came of it, in words.
+QString MainWindowController::importedFrom(const QString& path)
 {
-    finishEditing();
+    const auto name = QFileInfo(path).fileName();
     const auto import = _document.importFile(path);
     _document.undoManager().closeGroup();
-    if (!import.refusal.isEmpty()) {
-        showMessage(tr("%1 was not imported: %2").arg(QFileInfo(path).fileName(), import.refusal));
-        return;
-    }
+    if (!import.refusal.isEmpty())
+        return tr("%1 was not imported: %2").arg(name, import.refusal);
     _tourController.showNewestFirst();
     _tourController.selectRow(0);
-    _tableView->scrollToSelection();
     const auto added =
         counted(static_cast<qsizetype>(import.added), tr("1 tour added"), tr("%1 tours added"));
-    showMessage(
-        tr("%1: %2, %3 already there.").arg(QFileInfo(path).fileName(), added).arg(import.alreadyThere));
+    return tr("%1: %2, %3 already there.").arg(name, added, QLocale().toString(import.alreadyThere));
+}
+
+void MainWindowController::importDumps(const QStringList& paths, QStringList told)
+{
+    finishEditing();
+    // Tours that have just come are not to be missed for what was looked for before.
+    _searchField->clear();
+    for (const auto& path : paths)
+        told << importedFrom(path);
+    _tableView->scrollToSelection();
+    showMessage(told.join(u' '));
 }
 
 void MainWindowController::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!localFiles(*event->mimeData()).isEmpty())
+    if (!droppedFiles(*event->mimeData()).isEmpty())
         event->acceptProposedAction();
 }
 
 void MainWindowController::dropEvent(QDropEvent* event)
 {
     event->acceptProposedAction();
-    const auto paths = localFiles(*event->mimeData());
-    for (const auto& path : paths)
-        takeFile(path);
+    const auto paths = droppedFiles(*event->mimeData());
+    // The window that is dropped on may go.
+    QMetaObject::invokeMethod(
+        &_windows, [&windows = _windows, over = QPointer(this), paths] { windows.takeFiles(paths, over); },
+        Qt::QueuedConnection);
 }
 
 // Saving
 
+/// Until it is answered the window stays, and the other windows can be worked with.
+int MainWindowController::ask(QDialog& question)
+{
+    const QScopedValueRollback asking(_isAsking, true);
+    question.setWindowModality(Qt::WindowModal);
+    return question.exec();
+}
+
+bool MainWindowController::agrees(Sheet& sheet, const QString& button)
+{
+    const QAbstractButton* agreement = sheet.addButton(button, QMessageBox::DestructiveRole);
+    sheet.setDefaultButton(sheet.addButton(QMessageBox::Cancel));
+    ask(sheet);
+    return sheet.clickedButton() == agreement;
+}
+
 void MainWindowController::showError(const QString& what, const QString& reason)
 {
-    QMessageBox box(QMessageBox::Warning, QString(), what, QMessageBox::Ok, this);
-    box.setInformativeText(reason);
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    Sheet sheet(this, QMessageBox::Warning, what, reason);
+    sheet.addButton(QMessageBox::Ok);
+    ask(sheet);
 }
 
 void MainWindowController::saveDocument()
@@ -147,15 +148,10 @@ bool MainWindowController::save()
 
 bool MainWindowController::askWhetherToOverwrite()
 {
-    QMessageBox box(QMessageBox::Question, QString(),
-                    tr("Another program has changed %1 since you opened it.").arg(documentName()),
-                    QMessageBox::Cancel, this);
-    box.setInformativeText(tr("If you overwrite it, what the other program wrote is lost."));
-    box.setTextFormat(Qt::PlainText);
-    const auto* overwrite = box.addButton(tr("&Overwrite"), QMessageBox::DestructiveRole);
-    box.setDefaultButton(QMessageBox::Cancel);
-    box.exec();
-    return box.clickedButton() == static_cast<const QAbstractButton*>(overwrite);
+    Sheet sheet(this, QMessageBox::Question,
+                tr("Another program has changed %1 since you opened it.").arg(documentName()),
+                tr("If you overwrite it, what the other program wrote is lost."));
+    return agrees(sheet, tr("&Overwrite"));
 }
 
 bool MainWindowController::saveAs()
@@ -167,7 +163,7 @@ bool MainWindowController::saveAs()
     panel.setDefaultSuffix(MyDocument::extension);
     panel.selectFile(_document.path().isEmpty() ? tr("Tours") + u'.' + MyDocument::extension
                                                 : _document.path());
-    if (panel.exec() != QDialog::Accepted || panel.selectedFiles().isEmpty())
+    if (ask(panel) != QDialog::Accepted || panel.selectedFiles().isEmpty())
         return false;
     const auto path = panel.selectedFiles().constFirst();
     if (const auto error = _windows.controller().saveDocumentAs(_document, path)) {
@@ -181,49 +177,77 @@ bool MainWindowController::saveAs()
 
 void MainWindowController::revertDocument()
 {
-    finishEditing();
-    QMessageBox box(QMessageBox::Question, QString(), tr("Go back to what %1 holds?").arg(documentName()),
-                    QMessageBox::Cancel, this);
-    box.setInformativeText(tr("All changes since it was saved are lost, and cannot be brought back."));
-    box.setTextFormat(Qt::PlainText);
-    const auto* revert = box.addButton(tr("&Revert"), QMessageBox::DestructiveRole);
-    box.setDefaultButton(QMessageBox::Cancel);
-    box.exec();
-    if (box.clickedButton() != static_cast<const QAbstractButton*>(revert))
+    const auto& undo = _document.undoManager();
+    const auto asked = undo.state();
+    Sheet sheet(this, QMessageBox::Question, tr("Go back to what %1 holds?").arg(documentName()),
+                tr("All changes since it was saved are lost, and cannot be brought back."));
+    if (!agrees(sheet, tr("&Revert")))
         return;
-    if (const auto error = _document.revert())
+    // A transfer may have ended meanwhile.
+    if (undo.state() != asked) {
+        showMessage(tr("The document was not reverted: it has changed since you were asked."));
+        return;
+    }
+    const auto row = _tourController.selectedRows().empty() ? 0 : _tourController.selectedRows().front();
+    if (const auto error = _document.revert()) {
         showError(tr("%1 could not be read.").arg(documentName()), *error);
-    else
+    } else {
+        _tourController.selectRow(row);
         showMessage(tr("The document is as it was saved."));
+    }
     showTitle();
 }
 
 // Closing
 
+/// A transfer that is under way is ended, if the user wants; what arrived is kept.
+bool MainWindowController::mayEndTransfer()
+{
+    if (!isConnected() || _odoCom->odoData().isEmpty())
+        return true;
+    Sheet sheet(this, QMessageBox::Question, tr("A transfer from the device is under way."),
+                tr("If you close the window now, it ends before the tours have arrived."));
+    if (!agrees(sheet, tr("&Stop Transfer")))
+        return false;
+    stopTransfer();
+    return true;
+}
+
 bool MainWindowController::mayClose()
 {
     finishEditing();
-    if (!_document.isChanged())
-        return true;
-    QMessageBox box(QMessageBox::Question, QString(),
-                    tr("Save the changes of %1 before it is closed?").arg(documentName()),
-                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
-    box.setInformativeText(tr("They are lost if you do not save them."));
-    box.setTextFormat(Qt::PlainText);
-    box.button(QMessageBox::Discard)->setText(tr("&Don't Save"));
-    box.setDefaultButton(QMessageBox::Save);
-    switch (box.exec()) {
-    case QMessageBox::Save:
-        return save();
-    case QMessageBox::Discard:
-        return true;
-    default:
+    if (!mayEndTransfer())
         return false;
+    while (_document.isChanged()) {
+        const auto asked = _document.undoManager().state();
+        Sheet sheet(this, QMessageBox::Question,
+                    tr("Save the changes of %1 before it is closed?").arg(documentName()),
+                    tr("They are lost if you do not save them."));
+        sheet.setStandardButtons(QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+        sheet.button(QMessageBox::Discard)->setText(tr("&Don't Save"));
+        sheet.setDefaultButton(QMessageBox::Save);
+        switch (ask(sheet)) {
+        case QMessageBox::Save:
+            return save();
+        case QMessageBox::Discard:
+            // The answer is for what was there when it was asked.
+            if (_document.undoManager().state() == asked)
+                return true;
+            break;
+        default:
+            return false;
+        }
     }
+    return true;
 }
 
 void MainWindowController::closeEvent(QCloseEvent* event)
 {
+    if (_isAsking) {
+        ApplicationWindows::bringToFront(*this);
+        event->ignore();
+        return;
+    }
     event->setAccepted(mayClose());
 }
 

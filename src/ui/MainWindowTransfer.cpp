@@ -14,6 +14,8 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDockWidget>
+#include <QLineEdit>
+#include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
 
@@ -26,6 +28,17 @@ OdoCom::StopBits stopBitsFrom(const Defaults& defaults)
 {
     return defaults.boolForKey(DefaultsKeys::useAlternateTransferSettings) ? OdoCom::StopBits::two
                                                                            : OdoCom::StopBits::one;
+}
+
+/// What is said of what arrived, behind why no more did; empty if nothing was to be kept.
+QString fateOf(const std::optional<KeptDump>& kept)
+{
+    if (!kept)
+        return {};
+    if (kept->error.isEmpty())
+        return MainWindowController::tr("; what arrived is in %1").arg(kept->path);
+    return MainWindowController::tr("; what arrived could not be kept in %1: %2")
+        .arg(kept->path, kept->error);
 }
 
 } // namespace
@@ -45,6 +58,14 @@ void MainWindowController::fillPorts()
             : _defaults.textForKey(DefaultsKeys::selectedInterfacePort).value_or(QString()));
 }
 
+/// For the next time. The simulated device is somewhere else then, and is not to take a real one's place.
+void MainWindowController::storePort()
+{
+    const auto port = _connectView->selectedPort();
+    if (!port.isEmpty() && port != _windows.simulatedDevice().path())
+        _defaults.setValue(DefaultsKeys::selectedInterfacePort, port);
+}
+
 void MainWindowController::toggleConnectDrawer()
 {
     _connectDrawer->setVisible(_connectDrawer->isHidden());
@@ -57,8 +78,8 @@ void MainWindowController::drawerDidChange()
     _transferButton->setChecked(isOpen);
     if (isOpen)
         fillPorts();
-    else if (!_connectView->selectedPort().isEmpty())
-        _defaults.setValue(DefaultsKeys::selectedInterfacePort, _connectView->selectedPort());
+    else
+        storePort();
     _defaults.setValue(DefaultsKeys::drawerOpen, isOpen);
 }
 
@@ -73,7 +94,7 @@ void MainWindowController::tell(const QString& state)
 void MainWindowController::setConnected(bool connected)
 {
     _connectView->connectButton().setChecked(connected);
-    _connectView->connectButton().setText(connected ? tr("&Disconnect") : tr("&Connect"));
+    _connectView->connectButton().setText(connected ? tr("Dis&connect") : tr("&Connect"));
     _connectView->portsPopUp().setEnabled(!connected);
     _startTransferAction->setEnabled(!connected);
     _stopTransferAction->setEnabled(connected);
@@ -104,8 +125,7 @@ void MainWindowController::connectToOdo(bool connected)
 void MainWindowController::openPort()
 {
     const auto port = _connectView->selectedPort();
-    if (!port.isEmpty())
-        _defaults.setValue(DefaultsKeys::selectedInterfacePort, port);
+    storePort();
     _isSimulated = !port.isEmpty() && port == _windows.simulatedDevice().path();
     _odoCom = std::make_unique<OdoCom>(port, stopBitsFrom(_defaults));
     _odoCom->setDelegate(this);
@@ -135,17 +155,12 @@ void MainWindowController::stopTransfer()
     _odoCom->stopReading();
     // What was read from the line is on its way here, and belongs to what arrived.
     QCoreApplication::sendPostedEvents();
+    if (!isConnected())
+        return;
     const auto received = _odoCom->odoData();
     endSession();
     const auto kept = _isSimulated ? std::nullopt : keepStoppedDump(received);
-    const auto stopped = whyTransferWasStopped(received.size(), OdoCom::wholeDump);
-    if (!kept)
-        tell(tr("Transfer %1.").arg(stopped));
-    else if (kept->error.isEmpty())
-        tell(tr("Transfer %1; what arrived is in %2.").arg(stopped, kept->path));
-    else
-        tell(tr("Transfer %1; what arrived could not be kept in %2: %3.")
-                 .arg(stopped, kept->path, kept->error));
+    tell(tr("Transfer %1.").arg(whyTransferWasStopped(received.size(), OdoCom::wholeDump) + fateOf(kept)));
 }
 
 // What the session tells
@@ -154,25 +169,41 @@ void MainWindowController::handleTransferStarted()
 {
     _sinceFirstBytes.start();
     _connectView->progressIndicatorSpin().stopAnimation();
+    tell(tr("Receiving…"));
 }
 
 void MainWindowController::handleTransferProgress(std::int32_t bytes)
 {
     auto& bar = _connectView->progressIndicatorBar();
     bar.setValue(std::min(bar.value() + bytes, bar.maximum()));
+    const auto state = receivingText();
+    // With the drawer closed there is no bar.
+    if (_connectDrawer->isHidden())
+        tell(state);
+    else
+        _connectView->setState(state);
+}
+
+QString MainWindowController::receivingText() const
+{
     const auto received = static_cast<double>(_odoCom->odoData().size());
     constexpr auto whole = static_cast<double>(OdoCom::wholeDump);
-    const auto left = static_cast<double>(_sinceFirstBytes.elapsed()) / 1000 * (whole - received) / received;
-    const auto percent = static_cast<int>(std::min(received / whole, 1.0) * 100);
-    const auto seconds = static_cast<qsizetype>(std::ceil(std::max(left, 0.0)));
-    _connectView->setState(
-        tr("Receiving, %1 %, %2 left").arg(percent).arg(counted(seconds, tr("1 second"), tr("%1 seconds"))));
+    const auto percent = QString::number(static_cast<int>(std::min(received / whole, 1.0) * 100));
+    const auto elapsed = static_cast<double>(_sinceFirstBytes.elapsed()) / 1000;
+    // Of the first bytes nothing can be told yet.
+    if (elapsed < 1)
+        return tr("Receiving, %1 %").arg(percent);
+    const auto left = std::max(elapsed * (whole - received) / received, 0.0);
+    const auto seconds = counted(static_cast<qsizetype>(std::ceil(left)), tr("1 second"), tr("%1 seconds"));
+    return tr("Receiving, %1 %, %2 left").arg(percent, seconds);
 }
 
 void MainWindowController::handleTransferFinished()
 {
     const auto dump = _odoCom->odoData();
     endSession();
+    finishEditing();
+    _searchField->clear();
     const auto import = _document.handleTransferFinished(dump, CalendarDate::now(),
                                                          _isSimulated ? MyDocument::RawDump::isNotKept
                                                                       : MyDocument::RawDump::asTheUserWants);
@@ -188,10 +219,7 @@ void MainWindowController::handleTransferBrokenOff()
     endSession();
     const auto reason = whyTransferBrokeOff(received.size(), OdoCom::wholeDump);
     const auto kept = _isSimulated ? std::nullopt : keepStoppedDump(received);
-    if (kept && kept->error.isEmpty())
-        tell(tr("Broken off: %1; what arrived is in %2.").arg(reason, kept->path));
-    else
-        tell(tr("Broken off: %1.").arg(reason));
+    tell(tr("Broken off: %1.").arg(reason + fateOf(kept)));
 }
 
 void MainWindowController::tellMerged(const MyDocument::Import& import, const QString& what)
@@ -203,7 +231,7 @@ void MainWindowController::tellMerged(const MyDocument::Import& import, const QS
     }
     const auto added =
         counted(static_cast<qsizetype>(import.added), tr("1 tour added"), tr("%1 tours added"));
-    tell(tr("Finished: %1, %2 already there.").arg(added).arg(import.alreadyThere));
+    tell(tr("Finished: %1, %2 already there.").arg(added, QLocale().toString(import.alreadyThere)));
 }
 
 } // namespace ridelog

@@ -2,13 +2,16 @@
 
 #include "library/AppController.h"
 #include "ui/ApplicationWindows.h"
+#include "ui/DroppedFiles.h"
 #include "ui/MainWindowController.h"
 
 #include <QDir>
+#include <QDropEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QMimeData>
 #include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -18,11 +21,12 @@ namespace ridelog {
 StartWindow::StartWindow(ApplicationWindows& windows) : _windows(windows), _message(new QLabel)
 {
     setWindowTitle(tr("ridelog"));
+    setAcceptDrops(true);
     resize(560, 380);
     _message->setWordWrap(true);
     _message->setTextFormat(Qt::PlainText);
     _message->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    _message->setAccessibleName(tr("Message"));
+    _message->setFocusPolicy(Qt::StrongFocus);
 
     auto* recent = new QListWidget;
     recent->setAccessibleName(tr("Recent documents"));
@@ -35,7 +39,7 @@ StartWindow::StartWindow(ApplicationWindows& windows) : _windows(windows), _mess
             item->setForeground(palette().brush(QPalette::Disabled, QPalette::Text));
     }
     connect(recent, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
-        _windows.openDocument(item->data(Qt::UserRole).toString(), this);
+        _windows.openDocument(item->data(Qt::UserRole).toString());
     });
     auto* label = new QLabel(tr("&Recent documents:"));
     label->setBuddy(recent);
@@ -62,6 +66,21 @@ StartWindow::StartWindow(ApplicationWindows& windows) : _windows(windows), _mess
     layout->addWidget(label);
     layout->addWidget(recent, 1);
     layout->addLayout(buttons);
+}
+
+void StartWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!droppedFiles(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void StartWindow::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    const auto paths = droppedFiles(*event->mimeData());
+    // A window for the files closes this one.
+    QMetaObject::invokeMethod(
+        &_windows, [&windows = _windows, paths] { windows.takeFiles(paths); }, Qt::QueuedConnection);
 }
 
 void StartWindow::showMessage(const QString& message)

@@ -58,7 +58,7 @@ QString typeText(const OdoTour& tour, const TourColumns&)
 
 QString titleText(const OdoTour& tour, const TourColumns&)
 {
-    return tour.title() == OdoTour::untitled() ? QString() : tour.title();
+    return tour.shownTitle();
 }
 
 QString durationText(const OdoTour& tour, const TourColumns&)

@@ -55,6 +55,8 @@ TourTableView::TourTableView(TourArrayController& controller, TourTableModel& mo
     restoreColumns();
     showOrder();
     connect(&header, &QHeaderView::sortIndicatorChanged, &model, &TourTableModel::sort);
+    // Rows that move would take the field away, and what was typed with it.
+    connect(&model, &QAbstractItemModel::modelAboutToBeReset, this, &TourTableView::finishEditing);
     connect(&model, &QAbstractItemModel::modelReset, this, &TourTableView::showOrder);
     connect(&model, &QAbstractItemModel::modelReset, this, &TourTableView::showSelection);
     connect(&_controller, &TourArrayController::selectionChanged, this, &TourTableView::showSelection);
@@ -97,6 +99,12 @@ void TourTableView::storeColumns() const
 void TourTableView::askForColumns(QPoint position)
 {
     QMenu menu;
+    fillColumnsMenu(menu);
+    menu.exec(horizontalHeader()->mapToGlobal(position));
+}
+
+void TourTableView::fillColumnsMenu(QMenu& menu)
+{
     for (int column = 0; column < TourColumns::count(); ++column) {
         auto* action = menu.addAction(model()->headerData(column, Qt::Horizontal).toString());
         action->setCheckable(true);
@@ -107,7 +115,25 @@ void TourTableView::askForColumns(QPoint position)
         connect(action, &QAction::toggled, this,
                 [this, column](bool shown) { setColumnHidden(column, !shown); });
     }
-    menu.exec(horizontalHeader()->mapToGlobal(position));
+}
+
+void TourTableView::fillOrderMenu(QMenu& menu)
+{
+    const auto first = horizontalHeader()->sortIndicatorSection();
+    for (int column = 0; column < TourColumns::count(); ++column) {
+        auto* action = menu.addAction(model()->headerData(column, Qt::Horizontal).toString());
+        action->setCheckable(true);
+        action->setChecked(column == first);
+        connect(action, &QAction::triggered, this,
+                [this, column] { model()->sort(column, Qt::AscendingOrder); });
+    }
+    menu.addSeparator();
+    auto* reverse = menu.addAction(tr("&Reverse Order"));
+    reverse->setEnabled(first >= 0);
+    connect(reverse, &QAction::triggered, this, [this, first] {
+        const auto isAscending = horizontalHeader()->sortIndicatorOrder() == Qt::AscendingOrder;
+        model()->sort(first, isAscending ? Qt::DescendingOrder : Qt::AscendingOrder);
+    });
 }
 
 void TourTableView::showOrder()
@@ -174,6 +200,16 @@ void TourTableView::editTitle()
     scrollTo(title);
     setCurrentIndex(title);
     edit(title);
+}
+
+void TourTableView::finishEditing()
+{
+    if (state() != EditingState)
+        return;
+    if (auto* field = indexWidget(currentIndex())) {
+        commitData(field);
+        closeEditor(field, QAbstractItemDelegate::NoHint);
+    }
 }
 
 } // namespace ridelog

@@ -19,9 +19,15 @@ public:
 
     /// Begins to edit the title of the only selected tour.
     void editTitle();
+    /// A text that is still being edited counts as it stands.
+    void finishEditing();
     void scrollToSelection();
     /// Stores the arrangement of the columns.
     void storeColumns() const;
+    /// Entries that show and hide the columns.
+    void fillColumnsMenu(QMenu& menu);
+    /// Entries that sort by one of the columns, or the other way round.
+    void fillOrderMenu(QMenu& menu);
 
 protected:
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;

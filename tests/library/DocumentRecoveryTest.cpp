@@ -44,8 +44,8 @@ struct Session {
     {
         app.recovery().setInterval(interval);
         QObject::connect(&app, &AppController::documentOpened, [this] { ++opened; });
-        QObject::connect(&app, &AppController::openFailed,
-                         [this](const QString&, const QString& reason) { refusals.append(reason); });
+        QObject::connect(&app, &AppController::recoveryFailed,
+                         [this](const Leftover&, const QString& reason) { refusals.append(reason); });
         QObject::connect(&app.recovery(), &DocumentRecovery::written,
                          [this](MyDocument* document) { ++written[document]; });
         QObject::connect(&app.recovery(), &DocumentRecovery::failed,

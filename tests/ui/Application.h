@@ -18,12 +18,15 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -35,6 +38,7 @@ public:
     Application() : home(qgetenv("HOME"))
     {
         qputenv("HOME", path("").toUtf8());
+        qputenv("RIDELOG_PORTS", port);
         prepareMainThread();
     }
     ~Application() override
@@ -91,28 +95,47 @@ protected:
             found->trigger();
         QCoreApplication::processEvents();
     }
-    /// Presses this button of the question that comes next.
-    void answer(const char* button)
+    /// Presses this button of the question that comes next; `first` happens before.
+    void answer(const char* button, std::function<void()> first = {})
     {
-        auto* timer = new QTimer(&answers);
-        const auto press = [this, timer, wanted = QString::fromUtf8(button)] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (!box || timer->parent() == nullptr)
-                return;
-            timer->setParent(nullptr);
-            timer->deleteLater();
-            question = box->text() + u'\n' + box->informativeText();
-            for (auto* one : box->buttons()) {
+        whenAsked<QMessageBox>([this, wanted = QString::fromUtf8(button), first](QMessageBox& box) {
+            if (first)
+                first();
+            question = box.text() + u'\n' + box.informativeText();
+            for (auto* one : box.buttons()) {
                 if (one->text().remove(u'&') == wanted)
                     return one->click();
             }
             ADD_FAILURE() << "no button " << qPrintable(wanted);
-            box->reject();
-        };
-        timer->callOnTimeout(press);
+            box.reject();
+        });
+    }
+    /// Chooses this file in the panel that comes next; gives it up for none.
+    void choose(const QString& file)
+    {
+        whenAsked<QFileDialog>([file](QFileDialog& panel) {
+            if (file.isEmpty())
+                return panel.reject();
+            panel.selectFile(file);
+            static_cast<QDialog&>(panel).findChild<QDialogButtonBox*>()->buttons().constFirst()->click();
+        });
+    }
+    template <typename Dialog>
+    void whenAsked(std::function<void(Dialog&)> reply)
+    {
+        auto* timer = new QTimer(&answers);
+        timer->callOnTimeout([timer, reply = std::move(reply)] {
+            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+            if (!dialog || timer->parent() == nullptr)
+                return;
+            timer->setParent(nullptr);
+            timer->deleteLater();
+            reply(*dialog);
+        });
         timer->start(5);
     }
 
+    static constexpr const char* port = "/no/such/port"; ///< is in the list of ports all the same
     QByteArray home;
     const char* recoveryFolder = "recovery";
     std::unique_ptr<Defaults> defaults;
