@@ -3,11 +3,11 @@
 #include "cli/DocumentChange.h"
 #include "cli/DumpTarget.h"
 #include "cli/Reception.h"
-#include "cli/StopSignals.h"
 #include "cli/Wording.h"
 #include "decode/OdoData.h"
 #include "library/MyDocument.h"
 #include "library/RawDump.h"
+#include "platform/StopSignals.h"
 #include "platform/WholeFile.h"
 
 #include <QCommandLineParser>

@@ -1,8 +1,8 @@
 #include "cli/SimulateCommand.h"
 
 #include "cli/StandardError.h"
-#include "cli/StopSignals.h"
 #include "decode/OdoData.h"
+#include "platform/StopSignals.h"
 #include "platform/WholeFile.h"
 #include "simulator/DeviceSimulator.h"
 #include "simulator/RideGenerator.h"

@@ -9,7 +9,7 @@
 
 namespace ridelog {
 
-/// Lets a command end in its own way. While it exists Ctrl-C, SIGTERM and a terminal that goes away, which
+/// Lets a program end in its own way. While it exists Ctrl-C, SIGTERM and a terminal that goes away, which
 /// may come several times, do not kill the program but are told on the event loop: whoever has something to
 /// save keeps this until it is saved. What the program's caller wanted to be ignored stays ignored. Nor does
 /// a pipe kill that nobody reads any more: writing to it fails. One at a time.
