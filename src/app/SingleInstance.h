@@ -1,32 +1,61 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QLocalServer>
 #include <QObject>
+#include <QString>
 #include <QStringList>
+
+#include <optional>
+
+QT_FORWARD_DECLARE_CLASS(QLocalSocket)
 
 namespace ridelog {
 
-/// One program per user and settings: a second start hands its files to the first and ends.
+/// What a start of the program is asked for.
+struct StartRequest {
+    QStringList paths; ///< of files
+    bool simulatedDevice = false;
+};
+
+/// One program per user and settings: a second start hands what it is asked for to the first.
+///
+/// Who has locked a file beside the settings is the first. The system unlocks it when the program has ended,
+/// in whatever way, and nobody else may touch the socket, over which starts are handed over. A first program
+/// that is busy or stopped stays the first.
 class SingleInstance : public QObject {
     Q_OBJECT
 
 public:
-    /// `name` tells programs apart that are none of each other's business.
-    explicit SingleInstance(const QString& name, QObject* parent = nullptr);
+    /// For programs with the settings in this file.
+    explicit SingleInstance(const QString& settingsPath, QObject* parent = nullptr);
+    /// Lets the next start be the first.
+    ~SingleInstance() override;
 
-    /// Hands the files to the program that runs already. False if there is none.
-    bool handOver(const QStringList& paths) const;
-    /// From now on this is the one that runs. What goes wrong only lets a second one start.
-    void listen();
+    enum class Role {
+        first,     ///< starts are told from now on, from the event loop
+        later,     ///< the first has taken the request
+        unanswered ///< there is a first, but it does not answer for half a minute; nothing was handed over
+    };
+    /// Where there can be no lock, as in a folder that is not to be written, every start is a first one.
+    Role begin(const StartRequest& request);
 
 Q_SIGNALS:
-    /// A second start; absolute paths, or none if it was started without files.
-    void started(const QStringList& paths);
+    /// Another start; its paths are absolute.
+    void started(const ridelog::StartRequest& request);
 
 private:
-    void receive();
+    /// None, or why there can be no lock.
+    std::optional<QString> takeLock();
+    void listen();
+    bool handOver(const StartRequest& request, const QDeadlineTimer& deadline) const;
+    void receive(QLocalSocket& socket);
 
-    QString _name;
+    QString _lockPath;
+    int _lock = -1; ///< a descriptor of that file
+    bool _isLocked = false;
+    int _socketFolder = -1; ///< the folder of the socket
+    QString _socketName;
     QLocalServer _server;
 };
 

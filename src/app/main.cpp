@@ -8,7 +8,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QCryptographicHash>
 
 #include <csignal>
 #include <cstdio>
@@ -33,11 +32,19 @@ std::optional<LogLevel> levelNamed(const QString& name)
     return std::nullopt;
 }
 
-/// The same for programs that share their settings, and no longer than a socket's name may be.
-QString instanceName(const Defaults& defaults)
+/// What a second start is asked for and does not hand over.
+void tellLeftUndone(const QCommandLineParser& options)
 {
-    const auto hash = QCryptographicHash::hash(defaults.path().toUtf8(), QCryptographicHash::Sha1);
-    return QStringLiteral("ridelog-%1").arg(QString::fromLatin1(hash.toHex().left(16)));
+    for (const auto& name : {logName, updateUrlName}) {
+        if (options.isSet(name))
+            std::fprintf(stderr, "ridelog: --%s was not heeded: ridelog runs already\n", qPrintable(name));
+    }
+}
+
+void plugIn(SimulatedDevice& device)
+{
+    if (const auto error = device.plugIn())
+        std::fprintf(stderr, "ridelog: there is no simulated device: %s\n", qPrintable(*error));
 }
 
 } // namespace
@@ -78,20 +85,33 @@ int main(int argc, char* argv[])
     }
     setLogLevel(*level);
 
-    Defaults defaults;
-    SingleInstance instance(instanceName(defaults));
-    const auto paths = options.positionalArguments();
-    if (instance.handOver(paths))
+    const StartRequest request{.paths = options.positionalArguments(),
+                               .simulatedDevice = options.isSet(simulatedDeviceName)};
+    // It goes last: the next start finds everything stored.
+    SingleInstance instance(Defaults::userPath());
+    switch (instance.begin(request)) {
+    case SingleInstance::Role::first:
+        break;
+    case SingleInstance::Role::later:
+        tellLeftUndone(options);
         return 0;
+    case SingleInstance::Role::unanswered:
+        std::fprintf(stderr, "ridelog: the ridelog that runs already does not answer; nothing was opened\n");
+        return 3;
+    }
+
+    Defaults defaults;
     AppController controller(defaults);
     ApplicationWindows windows(controller, defaults);
     if (options.isSet(updateUrlName))
         windows.setUpdateUrl(options.value(updateUrlName));
-    if (options.isSet(simulatedDeviceName))
-        windows.simulatedDevice().plugIn();
-    QObject::connect(&instance, &SingleInstance::started, &windows,
-                     [&windows](const QStringList& files) { windows.takeFiles(files); });
-    instance.listen();
-    windows.start(paths);
+    if (request.simulatedDevice)
+        plugIn(windows.simulatedDevice());
+    QObject::connect(&instance, &SingleInstance::started, &windows, [&windows](const StartRequest& later) {
+        if (later.simulatedDevice)
+            plugIn(windows.simulatedDevice());
+        windows.takeFiles(later.paths);
+    });
+    windows.start(request.paths);
     return QApplication::exec();
 }
