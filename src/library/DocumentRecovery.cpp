@@ -37,12 +37,18 @@ QString takenByAnother()
     return QStringLiteral("another program has taken it meanwhile");
 }
 
+void logProblem(const QString& reason)
+{
+    qCWarning(lcLibrary, "Could not keep unsaved changes: %s", qUtf8Printable(reason));
+}
+
 } // namespace
 
 /// What is on the disk of one document. The folder is the thread's, once a job has this.
 struct DocumentRecovery::Aside {
     std::unique_ptr<RecoveryFolder> folder; ///< none before the first writing
     std::atomic_bool wanted = true;
+    std::optional<QString> error; ///< of the last writing; the thread's as well
 };
 
 struct DocumentRecovery::Watched {
@@ -77,10 +83,11 @@ DocumentRecovery::DocumentRecovery(QString folder, QObject* parent)
 
 DocumentRecovery::~DocumentRecovery()
 {
+    writeNow();
+    // Nobody else will hear of it any more.
     for (const auto& watched : _watched) {
-        // What is being written is older.
-        watched->isBeingWritten = false;
-        write(*watched);
+        if (watched->aside && watched->aside->error)
+            logProblem(*watched->aside->error);
     }
 }
 
@@ -147,15 +154,25 @@ void DocumentRecovery::write(Watched& watched)
         QString notMade;
         if (!aside->folder)
             aside->folder = RecoveryFolder::make(parent, notMade);
-        const auto error =
+        aside->error =
             aside->folder ? aside->folder->write(content, facts, aside->wanted) : std::optional(notMade);
         // A message that nobody takes any more must not keep the folder locked.
-        postToMainThread([self, weak = std::weak_ptr(aside), error] {
+        postToMainThread([self, weak = std::weak_ptr(aside), error = aside->error] {
             const auto current = weak.lock();
             if (self && current)
                 self->noteWritten(current, error);
         });
     });
+}
+
+void DocumentRecovery::writeNow()
+{
+    for (const auto& watched : _watched) {
+        // What is being written is older.
+        watched->isBeingWritten = false;
+        write(*watched);
+    }
+    _thread.waitForAll();
 }
 
 void DocumentRecovery::noteWritten(const std::shared_ptr<Aside>& aside, const std::optional<QString>& error)
@@ -174,7 +191,7 @@ void DocumentRecovery::noteWritten(const std::shared_ptr<Aside>& aside, const st
     if (!error)
         Q_EMIT written(document);
     else if (problem != *error) {
-        qCWarning(lcLibrary, "Could not keep unsaved changes: %s", qUtf8Printable(*error));
+        logProblem(*error);
         Q_EMIT failed(document, *error);
     }
 }

@@ -52,6 +52,8 @@ public:
 
     /// Keeps the changes of this document from now on. It must be forgotten, or outlive this.
     void watch(MyDocument& document);
+    /// Writes all changes now, and waits until they are on the disk: the program may be ended any moment.
+    void writeNow();
     /// The document is being closed, and what was not saved of it is not wanted.
     void forget(MyDocument& document);
 

@@ -1,5 +1,7 @@
 #include "platform/JobThread.h"
 
+#include <future>
+#include <memory>
 #include <utility>
 
 namespace ridelog {
@@ -25,6 +27,15 @@ void JobThread::run(std::function<void()> job)
     _more.notify_one();
     if (!_thread.joinable())
         _thread = std::thread([this] { work(); });
+}
+
+void JobThread::waitForAll()
+{
+    if (!_thread.joinable())
+        return;
+    const auto reached = std::make_shared<std::promise<void>>();
+    run([reached] { reached->set_value(); });
+    reached->get_future().wait();
 }
 
 void JobThread::work()

@@ -19,6 +19,8 @@ public:
     JobThread& operator=(const JobThread&) = delete;
 
     void run(std::function<void()> job);
+    /// Waits for the jobs that there are.
+    void waitForAll();
 
 private:
     void work();

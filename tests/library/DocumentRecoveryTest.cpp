@@ -173,6 +173,17 @@ TEST_F(DocumentRecoveryTest, OnlyWhatChangedIsWrittenAndNotTooOften)
     EXPECT_EQ(session.written[quiet], 1);
 }
 
+TEST_F(DocumentRecoveryTest, ItWritesAtOnceIfTheProgramMayEnd)
+{
+    Session session(folder, std::chrono::hours(1));
+    auto* document = session.app.openDocument(path);
+    ASSERT_TRUE(document);
+    edit(*document);
+    session.app.recovery().writeNow();
+    EXPECT_EQ(afterCrash().size(), 1U);
+    EXPECT_TRUE(eventually([&] { return session.written[document] == 1; }));
+}
+
 TEST_F(DocumentRecoveryTest, WhatWasLeftOpensAsAChangedDocument)
 {
     const auto onDisk = folder.read("tours.ridelog");
@@ -322,6 +333,13 @@ TEST_F(DocumentRecoveryTest, AFailingDiskCostsALogLine)
     EXPECT_TRUE(other.leftovers().empty());
     ASSERT_TRUE(eventually([&] { return !other.failures.empty(); }));
     EXPECT_TRUE(other.failures[0].contains(QStringLiteral("file/recovery: ")));
+
+    const auto told = log.errors().size();
+    {
+        Session ended(folder, std::chrono::hours(1), "file/recovery");
+        ended.app.newDocument().addNewToursFromArray(rides(1, 1));
+    }
+    EXPECT_EQ(log.errors().size(), told + 1) << "nobody hears of the end";
 }
 
 TEST_F(DocumentRecoveryTest, ASaveOvertakesTheWriting)
