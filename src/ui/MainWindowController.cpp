@@ -131,6 +131,8 @@ MainWindowController::MainWindowController(ApplicationWindows& windows, MyDocume
 
 MainWindowController::~MainWindowController()
 {
+    // The program may be ended in the middle of a transfer, or of a title.
+    finishEditing();
     stopTransfer();
     storeWindow();
     // They speak to this window and to its list for as long as they live.

@@ -224,7 +224,5 @@ TEST_F(MainWindow, SaysWhetherThereIsANewerVersion)
     ASSERT_TRUE(eventually(checked));
 }
 
-// The transfer
-
 } // namespace
 } // namespace ridelog

@@ -64,6 +64,18 @@ TEST_F(Transfer, KeepsWhatArrivedWhenItIsStoppedOrUnplugged)
     }
 }
 
+TEST_F(Transfer, KeepsWhatArrivedWhenTheProgramIsEnded)
+{
+    DeviceSimulator device({.dump = RideGenerator().dump(), .speed = 20});
+    ASSERT_EQ(device.start(), std::nullopt);
+    window().connectView().portsPopUp().addItem(device.path(), device.path());
+    window().connectView().selectPort(device.path());
+    trigger("Start Transfer");
+    ASSERT_TRUE(eventually([&] { return window().connectView().state().startsWith(u"Receiving"); }));
+    end();
+    EXPECT_GT(read("odoData.odo.tmp").size(), 0);
+}
+
 TEST_F(Transfer, MadeUpRidesTakeNoRealDumpsPlace)
 {
     plugIn();
