@@ -3,12 +3,16 @@
 #include "platform/Defaults.h"
 #include "platform/Log.h"
 #include "platform/MainThread.h"
+#include "platform/StopSignals.h"
 #include "ui/ApplicationWindows.h"
+#include "ui/MainWindowController.h"
 #include "update/ApplicationInfo.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QSessionManager>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <optional>
@@ -45,6 +49,19 @@ void plugIn(SimulatedDevice& device)
 {
     if (const auto error = device.plugIn())
         std::fprintf(stderr, "ridelog: there is no simulated device: %s\n", qPrintable(*error));
+}
+
+/// The user's session is about to end: asks what is to be saved, or keeps it aside where nobody may be asked.
+void endWithSession(QSessionManager& session, ApplicationWindows& windows)
+{
+    if (!session.allowsInteraction()) {
+        windows.controller().recovery().writeNow();
+        return;
+    }
+    windows.quit();
+    if (std::ranges::any_of(windows.mainWindows(), &QWidget::isVisible))
+        session.cancel();
+    session.release();
 }
 
 } // namespace
@@ -100,6 +117,13 @@ int main(int argc, char* argv[])
         return 3;
     }
 
+    // Who ends the program from outside is not asked anything: the windows store what they know, and what is
+    // not saved is kept for the next start.
+    bool isToEnd = false;
+    const StopSignals stopSignals([&isToEnd] {
+        isToEnd = true;
+        QCoreApplication::exit();
+    });
     Defaults defaults;
     AppController controller(defaults);
     ApplicationWindows windows(controller, defaults);
@@ -112,6 +136,12 @@ int main(int argc, char* argv[])
             plugIn(windows.simulatedDevice());
         windows.takeFiles(later.paths);
     });
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &windows,
+                     [&windows](QSessionManager& session) { endWithSession(session, windows); });
     windows.start(request.paths);
-    return QApplication::exec();
+    // A question of the start has an event loop of its own, which may have been ended.
+    const int status = isToEnd ? 0 : QApplication::exec();
+    // A start from now on waits for our end.
+    instance.disconnect();
+    return status;
 }
