@@ -88,7 +88,7 @@ TEST_F(ApplicationTest, OfTwoStartsAtOnceOneTakesTheFilesOfBoth)
 
 TEST_F(ApplicationTest, ASecondStartHandsOverWhatItIsAskedFor)
 {
-    const auto first = start({dump("a.odo", 1)});
+    const auto first = start({QStringLiteral("missing"), dump("a.odo", 1)});
     ASSERT_TRUE(first->imports(1)) << first->log.constData();
     QStringList words{QStringLiteral("--simulated-device"), QStringLiteral("--update-url"), QString()};
     for (int missing = 0; missing < 1000; ++missing)
