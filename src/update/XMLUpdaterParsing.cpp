@@ -59,12 +59,17 @@ Dict dictOf(const QXmlStreamAttributes& attributes)
     return dict;
 }
 
-/// As dictionaries stand in the log.
+/// As dictionaries stand in the log. Only so much of a large one: applications that are nested end one after
+/// the other, each with the whole record.
 QString textOf(const Dict& dict)
 {
+    constexpr qsizetype mostCharacters = 4096;
     QString text;
-    for (const auto& [key, value] : dict.asKeyValueRange())
-        text += QStringLiteral("    %1 = %2;\n").arg(key, value);
+    for (const auto& [key, value] : dict.asKeyValueRange()) {
+        text += QStringLiteral("    %1 = %2;\n").arg(key.left(mostCharacters), value.left(mostCharacters));
+        if (text.size() > mostCharacters)
+            return QStringLiteral("{\n%1…").arg(text.left(mostCharacters));
+    }
     return QStringLiteral("{\n%1}").arg(text);
 }
 

@@ -312,5 +312,14 @@ TEST_F(XMLUpdaterTest, LogTellsEachStep)
               "Error 3, Description: Opening and ending tag mismatch., Line: 2, Column: 4\nERROR in XML");
 }
 
+TEST_F(XMLUpdaterTest, LogDoesNotMultiplyTheDocument)
+{
+    const LogCapture log;
+    constexpr int depth = 100;
+    check(QByteArray("<application>").repeated(depth) + "<url>" + QByteArray(100'000, 'x') + "</url>" +
+          QByteArray("</application>").repeated(depth));
+    EXPECT_LT(log.lines().join(u'\n').size(), 100'000 + depth * 5'000);
+}
+
 } // namespace
 } // namespace ridelog
