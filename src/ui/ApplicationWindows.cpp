@@ -6,6 +6,7 @@
 #include "ui/MainWindowController.h"
 #include "ui/Sheet.h"
 #include "ui/UiLog.h"
+#include "update/XMLUpdater.h"
 
 #include <QApplication>
 #include <QDir>

@@ -21,6 +21,7 @@ class MainWindowController;
 class MyDocument;
 struct Leftover;
 class XMLUpdater;
+struct ApplicationInfo;
 
 /// The windows of the application: a main window for each open document, or the start window while there is
 /// none.
@@ -53,9 +54,9 @@ public:
     /// Looks for newer versions there and not where the build says.
     void setUpdateUrl(const QString& url) { _updateUrl = url; }
     /// Looks for a newer version if that is due, and says so only if there is one.
-    void checkForUpdatesIfDue(QWidget& over);
-    /// Looks for one now, and says what was found.
-    void checkForUpdates(QWidget& over);
+    void checkForUpdatesIfDue();
+    /// Looks for one now, and says what was found to the user of this window.
+    void checkForUpdates(MainWindowController& asker);
 
     /// Closes all windows, as far as the user lets them.
     void quit();
@@ -73,13 +74,17 @@ private:
     MainWindowController* open(const QString& path, MainWindowController* over);
     MainWindowController* windowInFront() const;
     MainWindowController* windowOf(const MyDocument& document) const;
-    XMLUpdater& newUpdater(QWidget& over) const;
+    ApplicationInfo applicationToUpdate() const;
+    void makeUpdater();
+    void tellUpdate(bool found);
     void showFailure(const QString& path, const QString& reason);
 
     AppController& _controller;
     Defaults& _defaults;
     SimulatedDevice _simulatedDevice;
     std::optional<QString> _updateUrl;
+    std::unique_ptr<XMLUpdater> _updater;        ///< of the check under way, until its outcome is told
+    QPointer<MainWindowController> _updateAsker; ///< whose user waits for it, if anybody does
     std::vector<MainWindowController*> _mainWindows;
     QPointer<MainWindowController> _lastInFront;
     QPointer<StartWindow> _startWindow;

@@ -126,7 +126,7 @@ MainWindowController::MainWindowController(ApplicationWindows& windows, MyDocume
     if (_document.isReadOnly())
         showMessage(tr("The document can only be read: %1").arg(_document.readOnlyReason()));
     if (_defaults.boolForKey(DefaultsKeys::automaticCheck))
-        _windows.checkForUpdatesIfDue(*this);
+        _windows.checkForUpdatesIfDue();
 }
 
 MainWindowController::~MainWindowController()

@@ -1,19 +1,37 @@
 // Newer versions of the application.
 
 #include "platform/CalendarDate.h"
-#include "platform/Defaults.h"
 #include "ui/ApplicationWindows.h"
 #include "ui/MainWindowController.h"
+#include "ui/Sheet.h"
 #include "ui/UiLog.h"
 #include "update/UpdateAlerts.h"
 #include "update/XMLUpdater.h"
 
 #include <QDesktopServices>
-#include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
+
+#include <utility>
 
 namespace ridelog {
 namespace {
+
+/// The beginning of what others have written, as much as there is room for: a text of a megabyte takes
+/// minutes to lay out, and one of a thousand lines pushes the buttons off the screen.
+QString fitting(const QString& text, qsizetype characters, qsizetype lines)
+{
+    static const QRegularExpression lineBreak(QStringLiteral("\\R"));
+    const auto all = text.left(characters).split(lineBreak);
+    const auto shown = all.mid(0, lines).join(u'\n');
+    return all.size() > lines || text.size() > characters ? shown + u'…' : shown;
+}
+
+/// For the window's message line.
+QString inOneLine(const QString& text)
+{
+    return fitting(text.trimmed(), 200, 1);
+}
 
 /// Asks over a window.
 class AlertsOver : public UpdateAlerts {
@@ -22,73 +40,98 @@ public:
 
     bool runModal(const UpdateAlert& alert) override
     {
-        QMessageBox box(QMessageBox::Information, alert.title, alert.title, QMessageBox::NoButton, &_window);
-        box.setInformativeText(alert.message);
-        box.setTextFormat(Qt::PlainText);
-        box.setDefaultButton(box.addButton(alert.defaultButton, QMessageBox::AcceptRole));
+        // A window that is closed meanwhile takes the box along.
+        const QPointer box(
+            new Sheet(&_window, QMessageBox::Information, alert.title, fitting(alert.message, 1500, 20)));
+        auto* usual = box->addButton(alert.defaultButton, QMessageBox::AcceptRole);
+        box->setDefaultButton(usual);
+        box->setEscapeButton(usual);
         const QAbstractButton* other = nullptr;
         if (!alert.otherButton.isEmpty())
-            other = box.addButton(alert.otherButton, QMessageBox::ActionRole);
-        box.exec();
-        return other && box.clickedButton() == other;
+            other = box->addButton(alert.otherButton, QMessageBox::ActionRole);
+        box->exec();
+        const bool isOther = box && other && box->clickedButton() == other;
+        delete box;
+        return isOther;
     }
 
 private:
     QWidget& _window;
 };
 
-void offer(XMLUpdater& updater, QWidget& over)
+void offer(const XMLUpdater& updater, MainWindowController& window)
 {
     qCDebug(lcUi, "Newer version available");
-    AlertsOver alerts(over);
+    AlertsOver alerts(window);
     if (!updater.shouldDownloadNewVersionDependingOn(true, alerts))
         return;
     qCDebug(lcUi, "Try to download new version");
-    updater.startDownloadingNewVersion([](const QUrl& url) { return QDesktopServices::openUrl(url); });
+    if (!updater.startDownloadingNewVersion([](const QUrl& url) { return QDesktopServices::openUrl(url); }))
+        window.showMessage(
+            ApplicationWindows::tr("The download address “%1” could not be opened in a browser.")
+                .arg(inOneLine(updater.urlString())));
+}
+
+void tellNoneFound(const XMLUpdater& updater, MainWindowController& window)
+{
+    qCDebug(lcUi, "Version is up-to-date");
+    if (const auto& failure = updater.failure())
+        window.showMessage(ApplicationWindows::tr("Newer versions could not be looked for: %1")
+                               .arg(inOneLine(failure->reason)));
+    AlertsOver alerts(window);
+    updater.shouldDownloadNewVersionDependingOn(false, alerts);
 }
 
 } // namespace
 
-/// Lives as long as the window, or until the check is over.
-XMLUpdater& ApplicationWindows::newUpdater(QWidget& over) const
+ApplicationInfo ApplicationWindows::applicationToUpdate() const
 {
     auto application = runningApplication();
     application.urlForUpdateCheck = _updateUrl.value_or(application.urlForUpdateCheck);
-    auto* updater = new XMLUpdater(application, _defaults, &over);
-    connect(updater, &XMLUpdater::checked, updater, &QObject::deleteLater);
-    return *updater;
+    return application;
 }
 
-void ApplicationWindows::checkForUpdatesIfDue(QWidget& over)
+void ApplicationWindows::makeUpdater()
+{
+    _updater = std::make_unique<XMLUpdater>(applicationToUpdate(), _defaults);
+    // The user is asked when the updater has finished its work, not in the middle of it.
+    connect(_updater.get(), &XMLUpdater::checked, this, &ApplicationWindows::tellUpdate,
+            Qt::QueuedConnection);
+}
+
+void ApplicationWindows::checkForUpdatesIfDue()
 {
     // A build without an address never finds anything: only who asks is told so.
-    if (_updateUrl.value_or(runningApplication().urlForUpdateCheck).isEmpty())
+    if (_updater || applicationToUpdate().urlForUpdateCheck.isEmpty())
         return;
-    auto& updater = newUpdater(over);
-    connect(&updater, &XMLUpdater::checked, &over, [&updater, &over](bool found) {
-        if (found)
-            offer(updater, over);
-    });
-    updater.checkForUpdateAfterTimePeriod(CalendarDate::now());
+    makeUpdater();
+    if (!_updater->checkForUpdateAfterTimePeriod(CalendarDate::now()))
+        _updater.reset();
 }
 
-void ApplicationWindows::checkForUpdates(QWidget& over)
+void ApplicationWindows::checkForUpdates(MainWindowController& asker)
 {
     qCDebug(lcUi, "[checkForUpdates]");
-    auto& updater = newUpdater(over);
-    connect(&updater, &XMLUpdater::checked, &over, [&updater, &over](bool found) {
-        if (found) {
-            offer(updater, over);
-            return;
-        }
-        qCDebug(lcUi, "Version is up-to-date");
-        if (auto* window = qobject_cast<MainWindowController*>(&over); window && updater.failure())
-            window->showMessage(
-                tr("Newer versions could not be looked for: %1").arg(updater.failure()->reason));
-        AlertsOver alerts(over);
-        updater.shouldDownloadNewVersionDependingOn(false, alerts);
-    });
-    updater.checkForUpdate(CalendarDate::now());
+    asker.showMessage(tr("Looking for newer versions…"));
+    _updateAsker = &asker;
+    // A check that is under way already has the answer soon.
+    if (_updater)
+        return;
+    makeUpdater();
+    _updater->checkForUpdate(CalendarDate::now());
+}
+
+void ApplicationWindows::tellUpdate(bool found)
+{
+    const auto asker = std::exchange(_updateAsker, nullptr);
+    if (asker)
+        asker->showMessage({});
+    auto* window = asker ? asker.get() : windowInFront();
+    if (found && window)
+        offer(*_updater, *window);
+    else if (asker)
+        tellNoneFound(*_updater, *asker);
+    _updater.reset();
 }
 
 } // namespace ridelog

@@ -78,11 +78,12 @@ void XMLUpdater::checkForUpdate(const QDateTime& now)
     _loader.load(_url);
 }
 
-void XMLUpdater::checkForUpdateAfterTimePeriod(const QDateTime& now)
+bool XMLUpdater::checkForUpdateAfterTimePeriod(const QDateTime& now)
 {
-    if (_checking || isDue(_defaults, now))
-        return checkForUpdate(now);
-    QTimer::singleShot(0, this, [this] { Q_EMIT checked(false); });
+    if (!isDue(_defaults, now))
+        return false;
+    checkForUpdate(now);
+    return true;
 }
 
 void XMLUpdater::_fail(const UpdateFailure& why)

@@ -10,7 +10,6 @@
 #include <QString>
 #include <QUrl>
 
-#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -34,15 +33,13 @@ public:
     static std::unique_ptr<XMLUpdater> initWithUrlString(const QString& urlString,
                                                          ApplicationInfo application, Defaults& defaults);
 
-    /// How long loading may take, 10 s unless set. Files are not limited.
-    void setTimeLimit(std::chrono::milliseconds limit) { _loader.setTimeLimit(limit); }
-
     /// Starts a check, unless one is under way. Stores `now`, the current date, as that of the last check
     /// when the outcome is there, whatever it is.
     void checkForUpdate(const QDateTime& now);
-    /// The same if the last check is as many days back as the user has chosen; tells of no update if not.
-    void checkForUpdateAfterTimePeriod(const QDateTime& now);
-    /// Why the check came to no comparison; none if it did, or was not due.
+    /// The same if the last check is as many days back as the user has chosen. False if it is not: there is
+    /// no outcome then.
+    bool checkForUpdateAfterTimePeriod(const QDateTime& now);
+    /// Why the check came to no comparison; none if it did.
     const std::optional<UpdateFailure>& failure() const { return _failure; }
 
     /// Shows the outcome. True if the user wants to download the new version.

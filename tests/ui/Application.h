@@ -29,6 +29,8 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
+#include <type_traits>
+#include <utility>
 
 namespace ridelog {
 
@@ -95,13 +97,29 @@ protected:
             found->trigger();
         QCoreApplication::processEvents();
     }
+    /// Does this with the question that comes next.
+    template <typename Dialog = QMessageBox>
+    void whenAsked(std::type_identity_t<std::function<void(Dialog&)>> act)
+    {
+        auto* timer = new QTimer(&answers);
+        timer->callOnTimeout([this, timer, act = std::move(act)] {
+            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+            if (!dialog || timer->parent() == nullptr)
+                return;
+            timer->setParent(nullptr);
+            timer->deleteLater();
+            if constexpr (std::is_same_v<Dialog, QMessageBox>)
+                question = dialog->text() + u'\n' + dialog->informativeText();
+            act(*dialog);
+        });
+        timer->start(5);
+    }
     /// Presses this button of the question that comes next; `first` happens before.
     void answer(const char* button, std::function<void()> first = {})
     {
-        whenAsked<QMessageBox>([this, wanted = QString::fromUtf8(button), first](QMessageBox& box) {
+        whenAsked([wanted = QString::fromUtf8(button), first](QMessageBox& box) {
             if (first)
                 first();
-            question = box.text() + u'\n' + box.informativeText();
             for (auto* one : box.buttons()) {
                 if (one->text().remove(u'&') == wanted)
                     return one->click();
@@ -119,20 +137,6 @@ protected:
             panel.selectFile(file);
             static_cast<QDialog&>(panel).findChild<QDialogButtonBox*>()->buttons().constFirst()->click();
         });
-    }
-    template <typename Dialog>
-    void whenAsked(std::function<void(Dialog&)> reply)
-    {
-        auto* timer = new QTimer(&answers);
-        timer->callOnTimeout([timer, reply = std::move(reply)] {
-            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-            if (!dialog || timer->parent() == nullptr)
-                return;
-            timer->setParent(nullptr);
-            timer->deleteLater();
-            reply(*dialog);
-        });
-        timer->start(5);
     }
 
     static constexpr const char* port = "/no/such/port"; ///< is in the list of ports all the same

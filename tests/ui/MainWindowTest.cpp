@@ -187,42 +187,5 @@ TEST_F(MainWindow, SettingsThatMakeNoSenseAreNoObstacle)
     EXPECT_TRUE(window().screen()->availableGeometry().intersects(window().frameGeometry()));
 }
 
-TEST_F(MainWindow, SaysWhetherThereIsANewerVersion)
-{
-    start();
-    const auto description = [this](const char* version) {
-        return QUrl::fromLocalFile(
-                   write("newest.xml", "<r><application><name>ridelog</name><version>" + QByteArray(version) +
-                                           "</version><description language=\"en\">Faster hills"
-                                           "</description></application></r>"))
-            .toString();
-    };
-    const auto checked = [this] { return !question.isEmpty(); };
-    windows->setUpdateUrl(description("99.0"));
-    answer("Ok");
-    trigger("Check for Updates…");
-    ASSERT_TRUE(eventually(checked));
-    EXPECT_EQ(question, QStringLiteral("New version found\nFaster hills"));
-    EXPECT_TRUE(defaults->dateForKey(DefaultsKeys::checkedForUpdateOn).has_value());
-
-    question.clear();
-    windows->setUpdateUrl(QUrl::fromLocalFile(path("none.xml")).toString());
-    answer("Ok");
-    trigger("Check for Updates…");
-    ASSERT_TRUE(eventually(checked));
-    EXPECT_EQ(question, QStringLiteral("No new version found\nNo new version available."));
-    EXPECT_TRUE(window().message().startsWith(QStringLiteral("Newer versions could not be looked for")));
-
-    // By itself it asks only now and then, and only if there is something to say.
-    question.clear();
-    windows->setUpdateUrl(description("99.0"));
-    defaults->setValue(DefaultsKeys::automaticCheck, true);
-    controller->newDocument();
-    defaults->setValue(DefaultsKeys::checkedForUpdateOn, QDateTime::currentDateTime().addDays(-8));
-    answer("Ok");
-    controller->newDocument();
-    ASSERT_TRUE(eventually(checked));
-}
-
 } // namespace
 } // namespace ridelog

@@ -8,10 +8,7 @@ namespace {
 
 class Transfer : public Application {
 protected:
-    void SetUp() override
-    {
-        start();
-    }
+    void SetUp() override { start(); }
     void plugIn()
     {
         trigger("Simulated Device");
