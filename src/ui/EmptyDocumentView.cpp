@@ -25,6 +25,11 @@ EmptyDocumentView::EmptyDocumentView(QWidget* parent) : QWidget(parent)
     auto* importDump = new QPushButton(tr("&Import Dump…"));
     connect(connectDevice, &QPushButton::clicked, this, &EmptyDocumentView::connectDeviceRequested);
     connect(importDump, &QPushButton::clicked, this, &EmptyDocumentView::importDumpRequested);
+    // Its height follows from its own width, not from that of the window.
+    auto* middle = new QHBoxLayout;
+    middle->addStretch();
+    middle->addWidget(text);
+    middle->addStretch();
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(connectDevice);
@@ -35,7 +40,7 @@ EmptyDocumentView::EmptyDocumentView(QWidget* parent) : QWidget(parent)
     layout->setSpacing(14);
     layout->addStretch();
     layout->addWidget(heading);
-    layout->addWidget(text, 0, Qt::AlignHCenter);
+    layout->addLayout(middle);
     layout->addLayout(buttons);
     layout->addStretch();
 }
