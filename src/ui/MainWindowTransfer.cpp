@@ -176,6 +176,8 @@ void MainWindowController::handleTransferProgress(std::int32_t bytes)
 {
     auto& bar = _connectView->progressIndicatorBar();
     bar.setValue(std::min(bar.value() + bytes, bar.maximum()));
+    // By itself it does not write the percent anew before there is a whole one more.
+    bar.update();
     const auto state = receivingText();
     // With the drawer closed there is no bar.
     if (_connectDrawer->isHidden())
