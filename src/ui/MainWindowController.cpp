@@ -299,10 +299,14 @@ QString MainWindowController::documentName() const
 
 void MainWindowController::showTitle()
 {
-    const auto name = _document.isReadOnly() ? tr("%1 (read-only)").arg(documentName()) : documentName();
-    // What marks the place for the mark of changes, in a file's name it is to be seen.
-    setWindowTitle(QString(name).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")) +
-                   QStringLiteral("[*]"));
+    // The platform adds the application's name, but only to titles that do not end with it already.
+    auto name = documentName();
+    if (name.endsWith(u'.' + MyDocument::extension))
+        name.chop(1 + MyDocument::extension.size());
+    if (_document.isReadOnly())
+        name = tr("%1 (read-only)").arg(name);
+    // What marks the place for the mark of changes is to be seen in a file's name.
+    setWindowTitle(name.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")) + QStringLiteral("[*]"));
     setWindowFilePath(_document.path());
     setWindowModified(_document.isChanged());
     _revertAction->setEnabled(!_document.path().isEmpty());
