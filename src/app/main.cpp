@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QPalette>
 #include <QSessionManager>
 
 #include <algorithm>
@@ -76,6 +77,10 @@ int main(int argc, char* argv[])
     QGuiApplication::setApplicationDisplayName(QStringLiteral("ridelog"));
     QGuiApplication::setDesktopFileName(QStringLiteral("ridelog"));
     prepareMainThread();
+    // Readable on white and on black: not every desktop's colours say how to write such texts.
+    QPalette colours;
+    colours.setColor(QPalette::PlaceholderText, Qt::darkGray);
+    QApplication::setPalette(colours);
 
     QCommandLineParser options;
     options.setApplicationDescription(
