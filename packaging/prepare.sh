@@ -24,7 +24,8 @@ prepare() {
 
     local packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev tzdata)
     if [[ $1 == test ]]; then
-        packages+=(qt6-charts-dev libqt6opengl6-dev libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev)
+        packages+=(qt6-charts-dev libqt6opengl6-dev libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev
+            xvfb openbox xdotool fonts-dejavu-core)
     fi
 
     local missing
@@ -50,6 +51,7 @@ configure() {
 and tested with
   GoogleTest 1.12, Google Benchmark 1.7, Qt Charts as what benchmarks compare with
   clang 14 with its sanitizer libraries, clang-format 14, clang-tidy 14
+  Xvfb, openbox, xdotool and the DejaVu fonts, for a desktop that nobody sees
 or newer." >&2
     exit 1
 }
