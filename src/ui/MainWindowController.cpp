@@ -160,8 +160,7 @@ void MainWindowController::makeTable()
 void MainWindowController::makeChart()
 {
     _tourField = new ElidedLabel;
-    _tourLine = new QWidget;
-    auto* line = new QHBoxLayout(_tourLine);
+    auto* line = new QHBoxLayout;
     line->setContentsMargins(8, 4, 8, 0);
     line->addWidget(_tourField, 1);
     line->addSpacing(12);
@@ -174,7 +173,7 @@ void MainWindowController::makeChart()
     auto* lower = new QWidget;
     auto* layout = new QVBoxLayout(lower);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(_tourLine);
+    layout->addLayout(line);
     layout->addWidget(_chartView, 1);
 }
 
@@ -240,7 +239,7 @@ std::shared_ptr<const OdoTour> MainWindowController::shownTour() const
 void MainWindowController::showSelectedTour()
 {
     const auto tour = shownTour();
-    _tourLine->setVisible(tour != nullptr);
+    _chartView->parentWidget()->setVisible(tour != nullptr);
     if (!tour)
         return;
     const auto date = QLocale().toString(tour->date(), QLocale::ShortFormat);

@@ -187,7 +187,6 @@ private:
     QStackedWidget* _tableOrHint = nullptr;
     QSplitter* _splitter = nullptr;
     ChartArrayView* _chartView = nullptr;
-    QWidget* _tourLine = nullptr; ///< what of the selected tour stands above its chart
     ElidedLabel* _tourField = nullptr;
     QLabel* _distanceField = nullptr;
     QLabel* _speedField = nullptr;

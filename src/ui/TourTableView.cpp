@@ -13,6 +13,7 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <utility>
 
 namespace ridelog {
 namespace {
@@ -89,6 +90,18 @@ void TourTableView::showColumnsAtFirst()
         setColumnWidth(column, width);
         setColumnHidden(column, !TourColumns::isShownAtFirst(column));
     }
+    _columnsAreNew = true;
+}
+
+/// Titles get the room that is left at first.
+void TourTableView::showEvent(QShowEvent* event)
+{
+    QTableView::showEvent(event);
+    if (!std::exchange(_columnsAreNew, false))
+        return;
+    const auto title = TourColumns::columnWithKey(TourKey::title);
+    setColumnWidth(
+        title, std::max(titleWidth, columnWidth(title) + viewport()->width() - horizontalHeader()->length()));
 }
 
 void TourTableView::storeColumns() const

@@ -31,6 +31,7 @@ public:
 
 protected:
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     void restoreColumns();
@@ -43,7 +44,8 @@ private:
 
     TourArrayController& _controller;
     Defaults& _defaults;
-    bool _isFollowing = false; ///< the controller leads, the table follows
+    bool _isFollowing = false;   ///< the controller leads, the table follows
+    bool _columnsAreNew = false; ///< nobody has arranged them yet
 };
 
 } // namespace ridelog
