@@ -63,7 +63,7 @@ int showDocument(const QString& path, const QString& settings)
 {
     prepareMainThread();
     Defaults defaults(settings);
-    AppController controller(defaults);
+    AppController controller(defaults, settings + QStringLiteral(".recovery"));
     ApplicationWindows windows(controller, defaults);
     windows.start({path});
     EndsWhenPainted end;
@@ -134,7 +134,7 @@ bool keepsTablePromises(const QTemporaryDir& folder)
     const auto path = folder.filePath(QStringLiteral("large.ridelog"));
     makeDocument(path, 10'000);
     Defaults defaults(folder.filePath(QStringLiteral("settings")));
-    AppController controller(defaults);
+    AppController controller(defaults, folder.filePath(QStringLiteral("recovery")));
     ApplicationWindows windows(controller, defaults);
     windows.start({path});
     auto& window = *windows.mainWindows().at(0);
@@ -166,7 +166,7 @@ bool keepsTablePromises(const QTemporaryDir& folder)
 
 int main(int argc, char** argv)
 {
-    if (!qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
+    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     setLogLevel(LogLevel::none);
     QApplication application(argc, argv);

@@ -209,9 +209,12 @@ void MainWindowController::makeToolBar()
     _searchField = new QLineEdit;
     _searchField->setPlaceholderText(tr("Search"));
     _searchField->setAccessibleName(tr("Search"));
-    _searchField->setClearButtonEnabled(true);
     _searchField->setMaximumWidth(240);
-    connect(_searchField, &QLineEdit::textChanged, &_tourController, &TourArrayController::setSearchText);
+    connect(_searchField, &QLineEdit::textChanged, this, [this](const QString& text) {
+        // Its icon is looked for among the desktop's, which a start need not wait for.
+        _searchField->setClearButtonEnabled(true);
+        _tourController.setSearchText(text);
+    });
     auto* clear = new QAction(_searchField);
     clear->setShortcut(Qt::Key_Escape);
     clear->setShortcutContext(Qt::WidgetShortcut);
