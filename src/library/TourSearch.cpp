@@ -29,8 +29,7 @@ bool TourSearch::finds(const OdoTour& tour) const
     QString dates;
     return std::ranges::all_of(_words, [&](const QString& word) {
         const auto isIn = [&word](const QString& text) { return text.contains(word, Qt::CaseInsensitive); };
-        if (isIn(tour.shownTitle()) || isIn(tour.type().value_or(QString())) ||
-            isIn(tour.shownDescription()))
+        if (isIn(tour.shownTitle()) || isIn(tour.type().value_or(QString())) || isIn(tour.shownDescription()))
             return true;
         if (dates.isEmpty())
             dates = datesOf(tour);

@@ -108,14 +108,15 @@ protected:
                 return;
             timer->setParent(nullptr);
             timer->deleteLater();
-            if constexpr (std::is_same_v<Dialog, QMessageBox>)
-                question = dialog->text() + u'\n' + dialog->informativeText();
+            question = textOf(*dialog);
             act(*dialog);
         });
         timer->start(5);
     }
+    static QString textOf(const QMessageBox& box) { return box.text() + u'\n' + box.informativeText(); }
+    static QString textOf(const QFileDialog& panel) { return panel.windowTitle(); }
     /// Presses this button of the question that comes next; `first` happens before.
-    void answer(const char* button, std::function<void()> first = {})
+    void answer(const char* button, const std::function<void()>& first = {})
     {
         whenAsked([wanted = QString::fromUtf8(button), first](QMessageBox& box) {
             if (first)
