@@ -18,12 +18,14 @@
 
 #include <QAccessible>
 #include <QAction>
+#include <QComboBox>
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
+#include <QPushButton>
 #include <QScreen>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -99,6 +101,14 @@ MainWindowController::MainWindowController(ApplicationWindows& windows, MyDocume
     _summary = new QLabel;
     statusBar()->addWidget(_message, 1);
     statusBar()->addPermanentWidget(_summary);
+
+    // From the top to the bottom, then the drawer.
+    setTabOrder(_searchField, _tableView);
+    setTabOrder(_tableView, _distanceField);
+    setTabOrder(_distanceField, _speedField);
+    setTabOrder(_speedField, &_connectView->portsPopUp());
+    setTabOrder(&_connectView->portsPopUp(), &_connectView->connectButton());
+    _tableView->setFocus();
 
     restoreWindow();
     configureFormatters();

@@ -60,7 +60,17 @@ TEST_F(MainWindowActions, AreThereByKey)
     ASSERT_EQ(controller->saveDocumentAs(document(), path("tours.ridelog")), std::nullopt);
     inFront(window());
     auto& table = window().tableView();
-    table.setFocus();
+    EXPECT_TRUE(table.hasFocus());
+    const std::vector<QWidget*> order{&window().distanceField(),
+                                      &window().speedField(),
+                                      &window().connectView().portsPopUp(),
+                                      &window().connectView().connectButton(),
+                                      &window().searchField(),
+                                      &table};
+    for (auto* next : order) {
+        press(Qt::Key_Tab);
+        EXPECT_TRUE(next->hasFocus()) << next->metaObject()->className();
+    }
     QTest::keyClick(&table, Qt::Key_Delete);
     QCoreApplication::processEvents();
     QTest::keyClick(&table, Qt::Key_Delete);
