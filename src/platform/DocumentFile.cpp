@@ -59,6 +59,8 @@ std::optional<QString> DocumentFile::lock()
 {
     if (_lock)
         return std::nullopt;
+    if (auto reason = whyNoFile(_target))
+        return reason;
     auto lock = std::make_unique<QLockFile>(lockPath(_target));
     // The owner may have the document open for weeks; only one that no longer runs has given it up.
     lock->setStaleLockTime(0);

@@ -235,6 +235,9 @@ QString targetOfPath(const QString& path)
 
 std::optional<QString> whyNoFile(const QString& path)
 {
+    // The system would take the part before it for the name.
+    if (path.contains(QChar::Null))
+        return QStringLiteral("no file can have this name");
     const QFileInfo info(path);
     if (info.isDir())
         return QStringLiteral("it is a folder");

@@ -210,6 +210,16 @@ TEST_F(DocumentFileTest, ALockOfNobodyIsTakenOver)
     EXPECT_TRUE(names().isEmpty());
 }
 
+TEST_F(DocumentFileTest, OfANameThatNoFileCanHaveNoPartIsTaken)
+{
+    DocumentFile file(path("a") + QChar(QChar::Null) + u'b');
+    const std::optional<QString> reason = QStringLiteral("no file can have this name");
+    EXPECT_EQ(file.lock(), reason);
+    EXPECT_EQ(file.read(takeAll, 1000), reason);
+    EXPECT_EQ(file.write(source(mine)), reason);
+    EXPECT_EQ(names(), QStringList());
+}
+
 TEST_F(DocumentFileTest, ReadsOnlyFilesOfItsSize)
 {
     const auto reasonFor = [&](const char* name) { return DocumentFile(path(name)).read(takeAll, 1000); };
