@@ -57,11 +57,14 @@ MyDocument* AppController::openDocument(const QString& path)
         return open;
     }
     auto document = std::make_unique<MyDocument>(&_defaults);
-    if (const auto error = document->open(location)) {
+    // What is kept aside goes, whatever is written to it.
+    const bool isKeptAside = _recovery.holds(location);
+    if (const auto error = isKeptAside ? document->openForReading(location) : document->open(location)) {
         Q_EMIT openFailed(location, *error);
         return nullptr;
     }
-    noteRecentDocument(location);
+    if (!isKeptAside)
+        noteRecentDocument(location);
     return &add(std::move(document));
 }
 
@@ -90,6 +93,8 @@ MyDocument* AppController::documentWithFile(const QString& path) const
 std::optional<QString> AppController::saveDocumentAs(MyDocument& document, const QString& path)
 {
     const auto location = absolutePath(path);
+    if (_recovery.holds(location))
+        return QStringLiteral("changes that are not saved are kept in this folder, and nothing else");
     auto error = document.saveAs(location);
     if (!error)
         noteRecentDocument(location);

@@ -27,9 +27,10 @@ public:
     const std::vector<std::unique_ptr<MyDocument>>& documents() const { return _documents; }
     MyDocument& newDocument();
     /// The document in this file; the one that has it open already, if there is one. None when it cannot be
-    /// opened: openFailed says why.
+    /// opened: openFailed says why. What is kept for a recovery can only be read.
     MyDocument* openDocument(const QString& path);
-    /// Saves under another name (see MyDocument::saveAs). None, or what went wrong.
+    /// Saves under another name (see MyDocument::saveAs), but not where changes are kept for a recovery.
+    /// None, or what went wrong.
     std::optional<QString> saveDocumentAs(MyDocument& document, const QString& path);
     /// Destroys the document, saved or not, and what was kept aside of it. Its file is free for others then.
     void closeDocument(MyDocument& document);

@@ -4,6 +4,7 @@
 #include "library/MyDocument.h"
 #include "library/RecoveryFolder.h"
 #include "platform/MainThread.h"
+#include "platform/WholeFile.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
@@ -282,6 +283,11 @@ std::optional<QString> DocumentRecovery::discard(const Leftover& leftover)
 {
     const auto folder = RecoveryFolder::hold(leftover.folder);
     return folder ? folder->remove() : takenByAnother();
+}
+
+bool DocumentRecovery::holds(const QString& path) const
+{
+    return targetOfPath(path).startsWith(targetOfPath(_folder) + u'/');
 }
 
 } // namespace ridelog

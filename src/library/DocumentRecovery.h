@@ -68,6 +68,8 @@ public:
     std::optional<QString> recover(const Leftover& leftover, MyDocument& document);
     /// Deletes it for good. None, or what went wrong.
     std::optional<QString> discard(const Leftover& leftover);
+    /// Whether a file is in what is kept here, which goes when it is not needed any more.
+    bool holds(const QString& path) const;
 
 Q_SIGNALS:
     /// What the document held a moment ago is on the disk.

@@ -96,6 +96,20 @@ TEST_F(AppControllerTest, AFileIsOpenOnce)
     EXPECT_FALSE(document->isReadOnly()) << "closing freed the file";
 }
 
+TEST_F(AppControllerTest, NothingIsSavedWhereCopiesComeAndGo)
+{
+    QDir().mkpath(folder.path("recovery/left"));
+    const auto copy = saved("recovery/left/1.ridelog");
+    Session session(folder);
+    auto& document = session.app.newDocument();
+    EXPECT_NE(session.app.saveDocumentAs(document, copy), std::nullopt);
+    EXPECT_TRUE(document.path().isEmpty());
+    const auto* found = session.app.openDocument(copy);
+    ASSERT_TRUE(found);
+    EXPECT_TRUE(found->isReadOnly());
+    EXPECT_EQ(session.app.recentDocuments(), QStringList());
+}
+
 TEST_F(AppControllerTest, TenRecentDocumentsAreKeptNewestFirst)
 {
     QStringList expected;
