@@ -19,7 +19,11 @@ QString datesOf(const OdoTour& tour)
 
 } // namespace
 
-TourSearch::TourSearch(const QString& text) : _words(text.simplified().split(u' ', Qt::SkipEmptyParts)) {}
+TourSearch::TourSearch(const QString& text) : _words(text.simplified().split(u' ', Qt::SkipEmptyParts))
+{
+    // A text that was pasted may have thousands of words, mostly the same.
+    _words.removeDuplicates();
+}
 
 bool TourSearch::finds(const OdoTour& tour) const
 {
