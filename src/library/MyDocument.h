@@ -1,6 +1,7 @@
 #pragma once
 
 #include "decode/DumpLayout.h"
+#include "library/RawDump.h"
 #include "library/TourMerge.h"
 #include "model/TourChanges.h"
 #include "platform/ArchiveObject.h"
@@ -110,7 +111,8 @@ public:
     struct Import {
         std::size_t added = 0;
         std::size_t alreadyThere = 0;
-        QString refusal; ///< why the dump was not decoded; empty if it was
+        QString refusal;              ///< why the dump was not decoded; empty if it was
+        std::optional<KeptDump> kept; ///< of a dump that has arrived, if it was to be kept as a file
     };
     /// Imports a raw dump, general data included. One that cannot be decoded changes nothing.
     Import importFile(const QString& path, const QDateTime& now = CalendarDate::now());

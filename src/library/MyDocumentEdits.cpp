@@ -90,17 +90,20 @@ MyDocument::Import MyDocument::handleTransferFinished(const QByteArray& dump, co
     qCDebug(lcLibrary, "[handleTransferFinished]");
     qCDebug(lcLibrary, "data received %lld", static_cast<long long>(dump.size()));
     const bool isWanted = _defaults && _defaults->boolForKey(DefaultsKeys::saveRawData);
+    std::optional<KeptDump> kept;
     if (isWanted && rawDump == RawDump::asTheUserWants)
-        keepFinishedDump(dump);
+        kept = keepFinishedDump(dump);
     const UndoGroup oneStep(_undoManager);
-    return mergeDump(OdoData::initWithData(dump, now));
+    auto import = mergeDump(OdoData::initWithData(dump, now));
+    import.kept = std::move(kept);
+    return import;
 }
 
 MyDocument::Import MyDocument::mergeDump(const OdoData& dump)
 {
     const auto& tours = dump.toursArray();
     const auto added = addNewToursFromArray(tours);
-    return {.added = added, .alreadyThere = tours.size() - added, .refusal = dump.refusal()};
+    return {.added = added, .alreadyThere = tours.size() - added, .refusal = dump.refusal(), .kept = {}};
 }
 
 // Removed marks. The tour registers the way back as well, and names the step. Undone, it is the tour that

@@ -228,12 +228,16 @@ void MainWindowController::tellMerged(const MyDocument::Import& import, const QS
 {
     if (!import.refusal.isEmpty()) {
         const auto refused = tr("%1 is no dump of the device: %2").arg(what, import.refusal);
-        tell(refused);
+        tell(refused + fateOf(import.kept));
         return;
     }
     const auto added =
         counted(static_cast<qsizetype>(import.added), tr("1 tour added"), tr("%1 tours added"));
-    tell(tr("Finished: %1, %2 already there.").arg(added, QLocale().toString(import.alreadyThere)));
+    const auto finished =
+        tr("Finished: %1, %2 already there").arg(added, QLocale().toString(import.alreadyThere));
+    // Where a dump is usually kept need not be said each time.
+    const bool isNotKept = import.kept && !import.kept->error.isEmpty();
+    tell(finished + (isNotKept ? fateOf(import.kept) : QString()) + u'.');
 }
 
 } // namespace ridelog

@@ -1,4 +1,5 @@
 #include "simulator/DeviceSimulator.h"
+#include "tests/support/SerialLine.h"
 #include "tests/ui/Application.h"
 
 #include <QDockWidget>
@@ -38,6 +39,26 @@ TEST_F(Transfer, BringsTheToursOfTheDevice)
     trigger("Start Transfer");
     ASSERT_TRUE(ends());
     EXPECT_EQ(window().message(), QStringLiteral("Finished: 0 tours added, 8 already there."));
+}
+
+TEST_F(Transfer, SaysWhatHasBecomeOfAWholeDump)
+{
+    const SerialLine line;
+    window().connectView().portsPopUp().addItem(line.path(), line.path());
+    window().connectView().selectPort(line.path());
+    const auto receive = [&](const QByteArray& bytes) {
+        trigger("Start Transfer");
+        EXPECT_TRUE(line.send(bytes) && ends());
+        return window().message();
+    };
+    const auto kept = path("odoData.odo");
+    EXPECT_TRUE(receive(QByteArray(81'930, 'x')).endsWith(QStringLiteral("; what arrived is in ") + kept));
+    ASSERT_TRUE(QFile::remove(kept) && QDir().mkdir(kept));
+    EXPECT_EQ(
+        receive(RideGenerator().dump()),
+        QStringLiteral("Finished: 8 tours added, 0 already there; what arrived could not be kept in %1: "
+                       "it is a folder.")
+            .arg(kept));
 }
 
 TEST_F(Transfer, KeepsWhatArrivedWhenItIsStoppedOrUnplugged)
