@@ -14,6 +14,9 @@ constexpr auto textAlignment = Qt::AlignLeft | Qt::AlignVCenter;
 /// By more than the last three columns that were clicked nobody thinks a table to be sorted.
 constexpr std::size_t mostDescriptors = 3;
 
+/// No screen shows more characters of a cell, and laying out a longer title for nothing takes its time.
+constexpr qsizetype mostShown = 1000;
+
 } // namespace
 
 TourTableModel::TourTableModel(TourArrayController& controller, const Defaults& defaults, QObject* parent)
@@ -44,6 +47,7 @@ QVariant TourTableModel::data(const QModelIndex& index, int role) const
 {
     switch (role) {
     case Qt::DisplayRole:
+        return _columns.text(index.column(), tourAt(index.row())).left(mostShown);
     case Qt::EditRole:
         return _columns.text(index.column(), tourAt(index.row()));
     case Qt::TextAlignmentRole:
@@ -78,9 +82,10 @@ bool TourTableModel::setData(const QModelIndex& index, const QVariant& value, in
     if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable))
         return false;
     const auto tour = _controller.arrangedObjects()[static_cast<std::size_t>(index.row())];
-    const auto title = value.toString().trimmed();
+    const auto typed = value.toString();
+    const auto title = typed.trimmed();
     // An untitled tour is shown without a title, and stays one when nothing was typed.
-    if (title == _columns.text(index.column(), *tour))
+    if (const auto shown = _columns.text(index.column(), *tour); typed == shown || title == shown)
         return false;
     tour->setTitle(title.isEmpty() ? OdoTour::untitled() : title);
     Q_EMIT textEdited();

@@ -8,11 +8,14 @@
 
 #include <QDateTime>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QLocale>
 #include <QMenu>
 #include <QScopedValueRollback>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace ridelog {
@@ -20,6 +23,21 @@ namespace {
 
 constexpr int titleWidth = 150;
 constexpr int columnMargin = 9; ///< beside a header's text, for the arrow of the order
+
+/// Edits titles, which may be longer than a field takes by itself.
+class TitleDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override
+    {
+        auto* editor = QStyledItemDelegate::createEditor(parent, option, index);
+        if (auto* field = qobject_cast<QLineEdit*>(editor))
+            field->setMaxLength(std::numeric_limits<int>::max());
+        return editor;
+    }
+};
 
 QString widestDate()
 {
@@ -33,6 +51,7 @@ TourTableView::TourTableView(TourArrayController& controller, TourTableModel& mo
     : QTableView(parent), _controller(controller), _defaults(defaults)
 {
     setModel(&model);
+    setItemDelegate(new TitleDelegate(this));
     setAccessibleName(tr("Tours"));
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
@@ -69,7 +88,8 @@ TourTableView::TourTableView(TourArrayController& controller, TourTableModel& mo
 void TourTableView::restoreColumns()
 {
     const auto stored = _defaults.valueForKey(DefaultsKeys::mainTableColumns).toByteArray();
-    if (stored.isEmpty() || !horizontalHeader()->restoreState(stored))
+    if (stored.isEmpty() || !horizontalHeader()->restoreState(stored) ||
+        horizontalHeader()->hiddenSectionCount() == TourColumns::count())
         showColumnsAtFirst();
     horizontalHeader()->setSectionsClickable(true);
 }

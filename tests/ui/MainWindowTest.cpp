@@ -104,6 +104,20 @@ TEST_F(MainWindow, ATitleIsEditedInPlaceAndTakesItsPlace)
     EXPECT_EQ(tour->title(), OdoTour::untitled());
 }
 
+TEST_F(MainWindow, ATitleStaysWholeWhereNothingIsTyped)
+{
+    start();
+    window().importDump(dump());
+    const auto tour = window().tourController().selectedTour();
+    for (const auto& title : {QString(40'000, u'x'), QStringLiteral(" two\nlines ")}) {
+        tour->setTitle(title);
+        trigger("Edit Title");
+        QTest::keyClick(window().tableView().findChild<QLineEdit*>(), Qt::Key_Return);
+        EXPECT_TRUE(tour->title() == title);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
 TEST_F(MainWindow, RemovedToursAreHiddenOrGreyAndComeBack)
 {
     start();
@@ -185,6 +199,12 @@ TEST_F(MainWindow, SettingsThatMakeNoSenseAreNoObstacle)
     EXPECT_EQ(window().tourController().selectedRows(), std::vector<int>{4}) << "the last one";
     EXPECT_EQ(window().tourController().sortDescriptors(), newestFirst());
     EXPECT_TRUE(window().screen()->availableGeometry().intersects(window().frameGeometry()));
+
+    for (int column = 0; column < TourColumns::count(); ++column)
+        window().tableView().setColumnHidden(column, true);
+    end();
+    start();
+    EXPECT_FALSE(window().tableView().isColumnHidden(TourColumns::columnWithKey(TourKey::date)));
 }
 
 } // namespace
