@@ -122,11 +122,14 @@ void ApplicationWindows::offerLeftovers()
     for (const auto& leftover : refused)
         tellRefused(leftover, leftover.refusal);
     const auto leftovers = _controller.recovery().leftovers();
-    for (const auto& leftover : leftovers)
-        offerLeftover(leftover);
+    for (const auto& leftover : leftovers) {
+        // Later means all of them: there may be many.
+        if (!offerLeftover(leftover))
+            return;
+    }
 }
 
-void ApplicationWindows::offerLeftover(const Leftover& leftover)
+bool ApplicationWindows::offerLeftover(const Leftover& leftover)
 {
     const auto tours = counted(leftover.tours, tr("1 tour"), tr("%1 tours"));
     const auto date = QLocale().toString(leftover.written.toLocalTime(), QLocale::ShortFormat);
@@ -143,6 +146,7 @@ void ApplicationWindows::offerLeftover(const Leftover& leftover)
         _controller.recoverDocument(leftover);
     else if (sheet.clickedButton() == discard)
         discardLeftover(leftover);
+    return sheet.clickedButton() == recover || sheet.clickedButton() == discard;
 }
 
 void ApplicationWindows::tellRefused(const Leftover& leftover, const QString& reason)

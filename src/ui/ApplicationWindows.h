@@ -66,7 +66,8 @@ public:
 private:
     /// Asks about what earlier runs did not come to save.
     void offerLeftovers();
-    void offerLeftover(const Leftover& leftover);
+    /// False to be asked later.
+    bool offerLeftover(const Leftover& leftover);
     void tellRefused(const Leftover& leftover, const QString& reason);
     void discardLeftover(const Leftover& leftover);
     void addWindow(MyDocument& document);

@@ -22,8 +22,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto refreshEvery = 2s;
-/// What the drawer needs at the least.
-constexpr QSize contentSize(200, 80);
+constexpr int contentWidth = 200;
 
 } // namespace
 
@@ -36,7 +35,8 @@ ConnectView::ConnectView(SimulatedDevice& simulatedDevice, QWidget* parent)
       _progressIndicatorBar(new QProgressBar),
       _state(new QLabel)
 {
-    setMinimumSize(contentSize);
+    // The height follows from what it says.
+    setMinimumWidth(contentWidth);
     _portsPopUp->setAccessibleName(tr("Serial port"));
     _portsPopUp->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     _portsPopUp->setMinimumContentsLength(16);
