@@ -83,7 +83,7 @@ protected:
         for (int x = 0; x < picture.width(); ++x) {
             if (count(Qt::black, QRectF(x, 0, 1, 15)) == 0)
                 continue;
-            if (labels.empty() || x > labels.back().second + 3)
+            if (labels.empty() || x > labels.back().second + 5)
                 labels.emplace_back(x, x);
             labels.back().second = x;
         }

@@ -14,18 +14,6 @@ namespace {
 enum Field : qsizetype { sizeOfHeader = 0, width = 4, height = 5, bytesPerLine = 12, colours = 19 };
 constexpr qsizetype sizeOfColour = 12;
 
-/// Text has the same shapes and widths wherever the test runs.
-const char fonts[] = R"(<fontconfig>
-<include>/etc/fonts/fonts.conf</include>
-<match target="pattern"><edit name="family" mode="assign" binding="strong"><string>DejaVu Sans</string></edit></match>
-<match target="font">
-<edit name="antialias" mode="assign"><bool>true</bool></edit>
-<edit name="hintstyle" mode="assign"><const>hintslight</const></edit>
-<edit name="rgba" mode="assign"><const>none</const></edit>
-</match>
-</fontconfig>
-)";
-
 } // namespace
 
 void endWithTest(QProcess& process)
@@ -52,10 +40,7 @@ Desktop::Desktop(const QString& folder) : _folder(folder)
     set("DBUS_SESSION_BUS_ADDRESS", QStringLiteral("disabled:"));
     for (const auto* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
         set(name, _folder);
-    const auto fontsPath = _folder + QStringLiteral("/fonts.conf");
-    QFile file(fontsPath);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(fonts) > 0);
-    set("FONTCONFIG_FILE", fontsPath);
+    set("FONTCONFIG_FILE", QStringLiteral(RIDELOG_SOURCE "/tests/support/fonts.conf"));
     endWithTest(_server);
     endWithTest(_windowManager);
 }

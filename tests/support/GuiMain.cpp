@@ -9,6 +9,7 @@ int main(int argc, char** argv)
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("FONTCONFIG_FILE", RIDELOG_SOURCE "/tests/support/fonts.conf");
     ridelog::setLogLevel(ridelog::LogLevel::none);
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
