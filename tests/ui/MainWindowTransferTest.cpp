@@ -16,6 +16,13 @@ protected:
         ASSERT_TRUE(windows->simulatedDevice().isPluggedIn());
         ASSERT_EQ(window().connectView().selectedPort(), windows->simulatedDevice().path());
     }
+    void startTransferFrom(DeviceSimulator& device)
+    {
+        ASSERT_EQ(device.start(), std::nullopt);
+        window().connectView().portsPopUp().addItem(device.path(), device.path());
+        window().connectView().selectPort(device.path());
+        trigger("Start Transfer");
+    }
     bool ends()
     {
         return eventually([this] { return !window().isConnected(); });
@@ -25,10 +32,7 @@ protected:
 TEST_F(Transfer, BringsTheToursOfTheDevice)
 {
     DeviceSimulator device({.dump = RideGenerator().dump(), .speed = 0});
-    ASSERT_EQ(device.start(), std::nullopt);
-    window().connectView().portsPopUp().addItem(device.path(), device.path());
-    window().connectView().selectPort(device.path());
-    trigger("Start Transfer");
+    startTransferFrom(device);
     EXPECT_TRUE(window().isConnected());
     EXPECT_EQ(window().connectView().state(), QStringLiteral("Waiting for the device…"));
     ASSERT_TRUE(ends());
@@ -65,10 +69,7 @@ TEST_F(Transfer, KeepsWhatArrivedWhenItIsStoppedOrUnplugged)
 {
     for (const bool isStopped : {true, false}) {
         DeviceSimulator device({.dump = RideGenerator().dump(), .speed = 20});
-        ASSERT_EQ(device.start(), std::nullopt);
-        window().connectView().portsPopUp().addItem(device.path(), device.path());
-        window().connectView().selectPort(device.path());
-        trigger("Start Transfer");
+        startTransferFrom(device);
         ASSERT_TRUE(eventually([&] { return window().connectView().state().startsWith(u"Receiving"); }));
         if (isStopped)
             trigger("Stop Transfer");
@@ -85,10 +86,7 @@ TEST_F(Transfer, KeepsWhatArrivedWhenItIsStoppedOrUnplugged)
 TEST_F(Transfer, KeepsWhatArrivedWhenTheProgramIsEnded)
 {
     DeviceSimulator device({.dump = RideGenerator().dump(), .speed = 20});
-    ASSERT_EQ(device.start(), std::nullopt);
-    window().connectView().portsPopUp().addItem(device.path(), device.path());
-    window().connectView().selectPort(device.path());
-    trigger("Start Transfer");
+    startTransferFrom(device);
     ASSERT_TRUE(eventually([&] { return window().connectView().state().startsWith(u"Receiving"); }));
     end();
     EXPECT_GT(read("odoData.odo.tmp").size(), 0);
@@ -159,10 +157,7 @@ TEST_F(Transfer, IsNotEndedUnasked)
     MyDocument saved;
     ASSERT_EQ(saved.saveAs(path("saved.ridelog")), std::nullopt);
     DeviceSimulator device({.dump = RideGenerator().dump(), .speed = 20});
-    ASSERT_EQ(device.start(), std::nullopt);
-    window().connectView().portsPopUp().addItem(device.path(), device.path());
-    window().connectView().selectPort(device.path());
-    trigger("Start Transfer");
+    startTransferFrom(device);
     ASSERT_TRUE(eventually([&] { return window().connectView().state().startsWith(u"Receiving"); }));
     windows->openDocument(path("saved.ridelog"), &window());
     QCoreApplication::processEvents();
