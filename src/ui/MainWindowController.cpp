@@ -11,6 +11,7 @@
 #include "ui/Counted.h"
 #include "ui/ElidedLabel.h"
 #include "ui/EmptyDocumentView.h"
+#include "ui/FileDrop.h"
 #include "ui/TourTableModel.h"
 #include "ui/TourTableView.h"
 #include "ui/UiLog.h"
@@ -78,7 +79,7 @@ MainWindowController::MainWindowController(ApplicationWindows& windows, MyDocume
       _untitledNumber(unusedNumber(windows))
 {
     qCDebug(lcUi, "-- awakeFromNib --");
-    setAcceptDrops(true);
+    new FileDrop(_windows, *this);
     setAttribute(Qt::WA_DeleteOnClose);
     _tourController.setSortDescriptors(
         sortDescriptorsFromText(_defaults.textForKey(DefaultsKeys::sortDesc).value_or(QString())));

@@ -3,19 +3,16 @@
 #include "library/AppController.h"
 #include "ui/ApplicationWindows.h"
 #include "ui/Counted.h"
-#include "ui/DroppedFiles.h"
 #include "ui/MainWindowController.h"
 #include "ui/Sheet.h"
 #include "ui/TourTableView.h"
 
 #include <QCloseEvent>
 #include <QDir>
-#include <QDropEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QLocale>
-#include <QMimeData>
 #include <QPushButton>
 #include <QScopedValueRollback>
 
@@ -69,22 +66,6 @@ void MainWindowController::importDumps(const QStringList& paths, QStringList tol
         told << importedFrom(path);
     _tableView->scrollToSelection();
     showMessage(told.join(u' '));
-}
-
-void MainWindowController::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (!droppedFiles(*event->mimeData()).isEmpty())
-        event->acceptProposedAction();
-}
-
-void MainWindowController::dropEvent(QDropEvent* event)
-{
-    event->acceptProposedAction();
-    const auto paths = droppedFiles(*event->mimeData());
-    // The window that is dropped on may go.
-    QMetaObject::invokeMethod(
-        &_windows, [&windows = _windows, over = QPointer(this), paths] { windows.takeFiles(paths, over); },
-        Qt::QueuedConnection);
 }
 
 // Saving

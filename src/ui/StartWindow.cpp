@@ -2,16 +2,14 @@
 
 #include "library/AppController.h"
 #include "ui/ApplicationWindows.h"
-#include "ui/DroppedFiles.h"
+#include "ui/FileDrop.h"
 #include "ui/MainWindowController.h"
 
 #include <QDir>
-#include <QDropEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
-#include <QMimeData>
 #include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -21,7 +19,7 @@ namespace ridelog {
 StartWindow::StartWindow(ApplicationWindows& windows) : _windows(windows), _message(new QLabel)
 {
     setWindowTitle(tr("ridelog"));
-    setAcceptDrops(true);
+    new FileDrop(_windows, *this);
     resize(560, 380);
     _message->setWordWrap(true);
     _message->setTextFormat(Qt::PlainText);
@@ -66,21 +64,6 @@ StartWindow::StartWindow(ApplicationWindows& windows) : _windows(windows), _mess
     layout->addWidget(label);
     layout->addWidget(recent, 1);
     layout->addLayout(buttons);
-}
-
-void StartWindow::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (!droppedFiles(*event->mimeData()).isEmpty())
-        event->acceptProposedAction();
-}
-
-void StartWindow::dropEvent(QDropEvent* event)
-{
-    event->acceptProposedAction();
-    const auto paths = droppedFiles(*event->mimeData());
-    // A window for the files closes this one.
-    QMetaObject::invokeMethod(
-        &_windows, [&windows = _windows, paths] { windows.takeFiles(paths); }, Qt::QueuedConnection);
 }
 
 void StartWindow::showMessage(const QString& message)

@@ -18,10 +18,6 @@ public:
     void showMessage(const QString& message);
     QString message() const;
 
-protected:
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
-
 private:
     ApplicationWindows& _windows;
     QLabel* _message;
