@@ -16,6 +16,7 @@ ChartArrayView::ChartArrayView(const Defaults& defaults, QWidget* parent)
     // Every repaint begins with white paper, in a dark theme as well.
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAccessibleName(tr("Chart"));
+    setMouseTracking(true);
     _bindUsedPreferences();
 }
 
@@ -81,6 +82,16 @@ void ChartArrayView::mousePressEvent(QMouseEvent* event)
 {
     if (_mouseDelegate && event->button() == Qt::LeftButton)
         _mouseDelegate->clickAtXValue(calcXValueFromPoint(event->position().x()));
+}
+
+void ChartArrayView::mouseMoveEvent(QMouseEvent* event)
+{
+    Q_EMIT hovered(calcXValueFromPoint(event->position().x()));
+}
+
+void ChartArrayView::leaveEvent(QEvent*)
+{
+    Q_EMIT hovered(std::nullopt);
 }
 
 } // namespace ridelog

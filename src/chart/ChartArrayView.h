@@ -64,9 +64,15 @@ public:
     QSize sizeHint() const override { return {640, 320}; }
     QSize minimumSizeHint() const override { return {160, 100}; }
 
+Q_SIGNALS:
+    /// The mouse is over this x value, by the last repaint; none when it has left.
+    void hovered(std::optional<double> x);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
 
 private:
     void _bindUsedPreferences();
