@@ -15,6 +15,9 @@ struct ChartPicture {
     QString error; ///< why there is none; empty if there is one
 };
 
+/// Pixels, or view units, of a side: the largest that all types and their readers take.
+constexpr int largestChartPicture = 16'384;
+
 /// The picture types by the endings of their files: jpg, jpeg, png, svg, pdf.
 QStringList chartPictureEndings();
 

@@ -9,6 +9,7 @@
 #include "cli/TourSource.h"
 #include "format/UnitFormatters.h"
 #include "library/DefaultsKeys.h"
+#include "library/FileOfTours.h"
 #include "model/SeriesNames.h"
 #include "platform/Defaults.h"
 #include "platform/JsonWriter.h"
@@ -30,9 +31,6 @@ const QString yName = QStringLiteral("y");
 const QString rangeName = QStringLiteral("manual-range");
 const QString layoutName = QStringLiteral("layout-json");
 
-constexpr int smallestSize = 1;
-constexpr int largestSize = 16'384;
-
 const QStringList& seriesNames()
 {
     static const QStringList names{SeriesNames::altitude, SeriesNames::speed, SeriesNames::pulse};
@@ -52,7 +50,7 @@ std::optional<QSize> sizeOf(const QString& text)
     static const QRegularExpression form(QStringLiteral("^(\\d{1,5})x(\\d{1,5})\\z"));
     const auto match = form.match(text);
     const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
-    const auto fits = [](int length) { return length >= smallestSize && length <= largestSize; };
+    const auto fits = [](int length) { return length >= 1 && length <= largestChartPicture; };
     return fits(size.width()) && fits(size.height()) ? std::optional(size) : std::nullopt;
 }
 
@@ -73,7 +71,8 @@ std::optional<QString> read(const QCommandLineParser& options, Request& request)
 {
     const auto size = sizeOf(options.value(sizeName));
     if (!size)
-        return QStringLiteral("--size takes width and height, 1 to %1 each, like 800x400").arg(largestSize);
+        return QStringLiteral("--size takes width and height, 1 to %1 each, like 800x400")
+            .arg(largestChartPicture);
     request.size = *size;
     request.x = options.value(xName);
     if (request.x != SeriesNames::distance && request.x != SeriesNames::time)
@@ -99,12 +98,6 @@ ChartSettings settingsFor(const Request& request, const Defaults& defaults)
         std::tie(settings.minRange, settings.maxRange) = *request.manualRange;
     }
     return settings;
-}
-
-/// The picture would take the place of recordings.
-bool holdsTours(const QString& path, const QDateTime& now)
-{
-    return QFileInfo(path).isFile() && TourSource::read(path, now).refusal.isEmpty();
 }
 
 ExitStatus drawPicture(const ChartScaling::Chart& chart, const QString& path)
@@ -180,7 +173,7 @@ ExitStatus ChartCommand::execute(const CommandContext& context) const
     if (!name)
         return wrongWords(*this, TourName::fault());
 
-    if (!wantsLayout && holdsTours(path, context.now))
+    if (!wantsLayout && holdsTours(path))
         return refuse(path, QStringLiteral("holds tours, which a picture would replace"));
 
     const auto file = context.arguments.constFirst();
