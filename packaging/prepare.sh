@@ -47,7 +47,7 @@ configure() {
     cmake --preset "$1" >/dev/null && return
     echo "ridelog is built with
   CMake 3.25, Ninja, a compiler for C++20 (g++ 12 or clang 14)
-  Qt 6.4 (Core, Gui, Network, Svg, Widgets) with its headers, time zone data
+  Qt 6.4 (Core, Gui, Network, PrintSupport, Svg, Widgets) with its headers, time zone data
 and tested with
   GoogleTest 1.12, Google Benchmark 1.7, Qt Charts as what benchmarks compare with
   clang 14 with its sanitizer libraries, clang-format 14, clang-tidy 14

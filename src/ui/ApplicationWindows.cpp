@@ -5,6 +5,7 @@
 #include "ui/Counted.h"
 #include "ui/MainWindowController.h"
 #include "ui/Sheet.h"
+#include "ui/TourWindowController.h"
 #include "ui/UiLog.h"
 #include "update/XMLUpdater.h"
 
@@ -16,6 +17,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <iterator>
 
 namespace ridelog {
 namespace {
@@ -73,6 +75,16 @@ std::vector<MainWindowController*> ApplicationWindows::mainWindows() const
     return _mainWindows;
 }
 
+std::vector<QWidget*> ApplicationWindows::openWindows() const
+{
+    std::vector<QWidget*> windows;
+    for (auto* window : _mainWindows) {
+        windows.push_back(window);
+        std::ranges::copy(window->tourWindows(), std::back_inserter(windows));
+    }
+    return windows;
+}
+
 void ApplicationWindows::addWindow(MyDocument& document)
 {
     auto* window = new MainWindowController(*this, document, _defaults);
@@ -102,6 +114,14 @@ MainWindowController* ApplicationWindows::windowOf(const MyDocument& document) c
 {
     const auto found = std::ranges::find_if(
         _mainWindows, [&](const auto* window) { return &window->myDocument() == &document; });
+    return found == _mainWindows.end() ? nullptr : *found;
+}
+
+MainWindowController* ApplicationWindows::mainWindowOf(const QWidget* window) const
+{
+    const auto found = std::ranges::find_if(_mainWindows, [window](auto* one) {
+        return one == window || std::ranges::count(one->tourWindows(), window);
+    });
     return found == _mainWindows.end() ? nullptr : *found;
 }
 
@@ -186,7 +206,7 @@ void ApplicationWindows::start(const QStringList& paths)
 void ApplicationWindows::takeFiles(const QStringList& paths, QWidget* over)
 {
     _failures.clear();
-    auto* target = qobject_cast<MainWindowController*>(over);
+    auto* target = mainWindowOf(over);
     if (!target)
         target = windowInFront();
     QStringList dumps;

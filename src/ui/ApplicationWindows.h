@@ -38,12 +38,14 @@ public:
     SimulatedDevice& simulatedDevice() { return _simulatedDevice; }
     /// In the order in which they were opened.
     std::vector<MainWindowController*> mainWindows() const;
+    /// Every main window, each followed by those of its tours.
+    std::vector<QWidget*> openWindows() const;
     StartWindow* startWindow() const { return _startWindow; }
 
     /// Begins with what a crash has left, then with these files, or as AppController has it.
     void start(const QStringList& paths);
-    /// Opens documents, and imports dumps into the one opened last; without one into that of `over`, or else
-    /// into the one that was last in front. Without files that comes to the front.
+    /// Opens documents, and imports dumps into the one opened last; without one into the document that `over`
+    /// shows, or part of, or else into the one that was last in front. Without files that comes to the front.
     void takeFiles(const QStringList& paths, QWidget* over = nullptr);
 
     /// Opens a document, and closes `over` if that shows a new one that nobody has touched. What goes wrong
@@ -75,6 +77,8 @@ private:
     MainWindowController* open(const QString& path, MainWindowController* over);
     MainWindowController* windowInFront() const;
     MainWindowController* windowOf(const MyDocument& document) const;
+    /// The main window of the document that this window belongs to.
+    MainWindowController* mainWindowOf(const QWidget* window) const;
     ApplicationInfo applicationToUpdate() const;
     void makeUpdater();
     void tellUpdate(bool found);

@@ -7,9 +7,13 @@
 #include "ui/ConnectView.h"
 #include "ui/Counted.h"
 #include "ui/MainWindowController.h"
+#include "ui/NumberedEntry.h"
 #include "ui/SimulatedDevice.h"
 #include "ui/TourTableView.h"
+#include "ui/TourWindowController.h"
 #include "ui/UiLog.h"
+#include "ui/UndoActions.h"
+#include "ui/WindowMenu.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -45,13 +49,6 @@ void addFilledMenu(QMenu& menu, const QString& title, std::function<void(QMenu&)
     });
 }
 
-/// An entry that its number chooses, as far as the digits go. An ampersand in a name is none of the menu's.
-QString numbered(qsizetype index, QString name)
-{
-    name.replace(u'&', QStringLiteral("&&"));
-    return index < 9 ? QStringLiteral("&%1  %2").arg(QString::number(index + 1), name) : name;
-}
-
 } // namespace
 
 QAction* MainWindowController::addAction(QMenu& menu, const QString& text, const QKeySequence& keys,
@@ -60,9 +57,7 @@ QAction* MainWindowController::addAction(QMenu& menu, const QString& text, const
     auto* action = menu.addAction(text);
     action->setShortcut(keys);
     connect(action, &QAction::triggered, this, [this, slot] {
-        finishEditing();
-        // What the last action led to has been read.
-        showMessage({});
+        beginAction();
         (this->*slot)();
     });
     return action;
@@ -74,7 +69,7 @@ void MainWindowController::makeActions()
     makeEditMenu();
     makeTourMenu();
     makeDeviceMenu();
-    makeWindowMenu();
+    menuBar()->addMenu(new WindowMenu(_windows, *this));
     makeHelpMenu();
     makeToolBar();
 }
@@ -94,6 +89,8 @@ void MainWindowController::makeFileMenu()
     addAction(menu, tr("Save &As…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S, &Window::saveDocumentAs);
     _revertAction = addAction(menu, tr("Re&vert"), Qt::Key_F5, &Window::revertDocument);
     menu.addSeparator();
+    _printAction = addAction(menu, tr("&Print…"), QKeySequence::Print, &Window::printTour);
+    menu.addSeparator();
     auto* closeAction = menu.addAction(tr("&Close"), this, &QWidget::close);
     closeAction->setShortcut(QKeySequence::Close);
     auto* quitAction = menu.addAction(tr("&Quit"), &_windows, &ApplicationWindows::quit);
@@ -105,8 +102,8 @@ void MainWindowController::makeEditMenu()
 {
     using Window = MainWindowController;
     auto& menu = *menuBar()->addMenu(tr("&Edit"));
-    _undoAction = addAction(menu, {}, QKeySequence::Undo, &Window::undo);
-    _redoAction = addAction(menu, {}, Qt::CTRL | Qt::SHIFT | Qt::Key_Z, &Window::redo);
+    auto* undo = new UndoActions(menu, _document.undoManager());
+    connect(undo, &UndoActions::chosen, this, &Window::beginAction);
     menu.addSeparator();
     _removeAction = addAction(menu, tr("Re&move Tour"), Qt::Key_Delete, &Window::deleteSelectedTour);
     _restoreAction =
@@ -146,8 +143,12 @@ void MainWindowController::makeEditMenu()
 void MainWindowController::makeTourMenu()
 {
     auto& menu = *menuBar()->addMenu(tr("&Tour"));
+    _openTourAction = addAction(menu, tr("&Open"), Qt::Key_Return, &MainWindowController::showSummaryWindow);
+    _openTourAction->setIconText(tr("Open Tour"));
+    // In a title that is edited Return means something else.
+    _openTourAction->setShortcutContext(Qt::WidgetShortcut);
     _editTitleAction = addAction(menu, tr("Edit &Title"), Qt::Key_F2, &MainWindowController::editTitle);
-    _tableView->insertAction(_removeAction, _editTitleAction);
+    _tableView->insertActions(_removeAction, {_openTourAction, _editTitleAction});
 }
 
 void MainWindowController::makeDeviceMenu()
@@ -174,12 +175,6 @@ void MainWindowController::makeDeviceMenu()
     connect(&_connectView->connectButton(), &QPushButton::clicked, this, &Window::connectToOdo);
 }
 
-void MainWindowController::makeWindowMenu()
-{
-    _windowMenu = menuBar()->addMenu(tr("&Window"));
-    connect(_windowMenu, &QMenu::aboutToShow, this, &MainWindowController::fillWindowMenu);
-}
-
 void MainWindowController::makeHelpMenu()
 {
     auto& menu = *menuBar()->addMenu(tr("&Help"));
@@ -201,7 +196,7 @@ void MainWindowController::makeToolBar()
     bar.setToolButtonStyle(Qt::ToolButtonTextOnly);
     bar.setContextMenuPolicy(Qt::PreventContextMenu);
     _importAction->setIconText(tr("Import"));
-    bar.addActions({_transferButton, _importAction});
+    bar.addActions({_transferButton, _importAction, _openTourAction});
     auto* space = new QWidget;
     space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar.addWidget(space);
@@ -231,23 +226,11 @@ void MainWindowController::fillRecentMenu()
         const QFileInfo file(path);
         const auto name =
             QStringLiteral("%1  (%2)").arg(file.fileName(), QDir::toNativeSeparators(file.path()));
-        auto* action = _recentMenu->addAction(numbered(_recentMenu->actions().size(), name));
+        auto* action = addNumberedEntry(*_recentMenu, name);
         connect(action, &QAction::triggered, this, [this, path] { _windows.openDocument(path, this); });
     }
     if (paths.isEmpty())
         _recentMenu->addAction(tr("No Documents Yet"))->setEnabled(false);
-}
-
-void MainWindowController::fillWindowMenu()
-{
-    _windowMenu->clear();
-    for (auto* window : _windows.mainWindows()) {
-        auto* action =
-            _windowMenu->addAction(numbered(_windowMenu->actions().size(), window->documentName()));
-        action->setCheckable(true);
-        action->setChecked(window == this);
-        connect(action, &QAction::triggered, window, [window] { ApplicationWindows::bringToFront(*window); });
-    }
 }
 
 // What they do
@@ -255,53 +238,15 @@ void MainWindowController::fillWindowMenu()
 void MainWindowController::finishEditing()
 {
     _tableView->finishEditing();
+    for (auto* window : _tourWindows)
+        window->finishEditing();
 }
 
-void MainWindowController::undo()
-{
-    _document.undoManager().undo();
-}
-
-void MainWindowController::redo()
-{
-    _document.undoManager().redo();
-}
-
-qsizetype MainWindowController::removedInSelection() const
-{
-    const auto selection = _tourController.selection();
-    return std::ranges::count_if(selection, [](const auto& tour) { return tour->removed(); });
-}
-
-void MainWindowController::deleteSelectedTour()
-{
-    if (_tourController.selectedRows().empty())
-        return;
-    const auto count = static_cast<qsizetype>(_tourController.selectedRows().size()) - removedInSelection();
-    const auto row = _tourController.selectedRows().front();
-    _tourController.deleteSelectedTours();
-    // The next one, so that Delete can go on.
-    if (_tourController.selectedRows().empty())
-        _tourController.selectRow(row);
-    showMessage(counted(count, tr("1 tour removed."), tr("%1 tours removed.")) + u' ' +
-                tr("What is removed stays in the document: see Edit > Show Removed Tours."));
-    tableViewSelectionDidChange();
-}
-
-void MainWindowController::undeleteSelectedTour()
-{
-    const auto count = removedInSelection();
-    _tourController.undeleteSelectedTours();
-    showMessage(counted(count, tr("1 tour restored."), tr("%1 tours restored.")));
-    tableViewSelectionDidChange();
-}
-
-void MainWindowController::showRemoved(bool show)
+void MainWindowController::beginAction()
 {
     finishEditing();
+    // What the last action led to has been read.
     showMessage({});
-    _tourController.setFilterDeletedItems(!show);
-    _tourController.rearrangeObjects();
 }
 
 void MainWindowController::find()
@@ -316,11 +261,6 @@ void MainWindowController::selectAll()
         _searchField->selectAll();
     else
         _tableView->selectAll();
-}
-
-void MainWindowController::editTitle()
-{
-    _tableView->editTitle();
 }
 
 void MainWindowController::showSimulatedDevice()

@@ -12,15 +12,18 @@
 #include "ui/ElidedLabel.h"
 #include "ui/EmptyDocumentView.h"
 #include "ui/FileDrop.h"
+#include "ui/MessageLine.h"
 #include "ui/TourTableModel.h"
 #include "ui/TourTableView.h"
+#include "ui/TourWindowController.h"
 #include "ui/UiLog.h"
 #include "ui/WindowFrame.h"
+#include "ui/WindowTitle.h"
 
-#include <QAccessible>
 #include <QAction>
 #include <QComboBox>
 #include <QDockWidget>
+#include <QEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -34,6 +37,7 @@
 #include <QVBoxLayout>
 
 #include <numeric>
+#include <utility>
 
 namespace ridelog {
 
@@ -98,7 +102,7 @@ MainWindowController::MainWindowController(ApplicationWindows& windows, MyDocume
     makeConnectDrawer();
     makeActions();
 
-    _message = new ElidedLabel;
+    _message = new MessageLine;
     _summary = new QLabel;
     statusBar()->addWidget(_message, 1);
     statusBar()->addPermanentWidget(_summary);
@@ -126,12 +130,10 @@ MainWindowController::MainWindowController(ApplicationWindows& windows, MyDocume
         enableActions();
     });
     connect(&_document, &MyDocument::toursArrayChanged, this, &MainWindowController::showTours);
-    connect(&_document.undoManager(), &UndoManager::changed, this, &MainWindowController::showUndo);
     connect(&_document.undoManager(), &UndoManager::cleanChanged, this, &MainWindowController::showTitle);
     _defaults.observe(DefaultsKeys::useMiles, this, [this] { configureFormatters(); });
     showTours();
     tableViewSelectionDidChange();
-    showUndo();
     showTitle();
     enableActions();
     if (_document.isReadOnly())
@@ -146,6 +148,10 @@ MainWindowController::~MainWindowController()
     finishEditing();
     stopTransfer();
     storeWindow();
+    for (auto* window : std::exchange(_tourWindows, {})) {
+        window->disconnect(this);
+        delete window;
+    }
     // They speak to this window and to its list for as long as they live.
     delete _connectDrawer;
     delete _splitter;
@@ -160,6 +166,7 @@ void MainWindowController::makeTable()
     // An edited title takes its place when control is back: not while the field is still open.
     connect(_tableModel, &TourTableModel::textEdited, &_tourController,
             &TourArrayController::rearrangeObjects, Qt::QueuedConnection);
+    connect(_tableView, &QTableView::doubleClicked, this, &MainWindowController::tableElementDoubleClicked);
     auto* hint = new EmptyDocumentView;
     connect(hint, &EmptyDocumentView::connectDeviceRequested, this, &MainWindowController::startTransfer);
     connect(hint, &EmptyDocumentView::importDumpRequested, this, &MainWindowController::importFile);
@@ -284,6 +291,7 @@ void MainWindowController::showTours()
     // A selected tour keeps its selection when rows move, but not its row.
     if (_tourController.selectedTour())
         _defaults.setValue(DefaultsKeys::selectedRow, _tourController.selectedRows().front());
+    closeWindowsOfLostTours();
     showSummary();
     enableActions();
 }
@@ -315,22 +323,10 @@ void MainWindowController::showTitle()
         name.chop(1 + MyDocument::extension.size());
     if (_document.isReadOnly())
         name = tr("%1 (read-only)").arg(name);
-    // What marks the place for the mark of changes is to be seen in a file's name.
-    setWindowTitle(name.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")) + QStringLiteral("[*]"));
+    setWindowTitle(titleWithName(name) + placeOfMark);
     setWindowFilePath(_document.path());
     setWindowModified(_document.isChanged());
     _revertAction->setEnabled(!_document.path().isEmpty());
-}
-
-void MainWindowController::showUndo()
-{
-    const auto& undo = _document.undoManager();
-    // Action names are the library's own words, which the translation knows.
-    _undoAction->setText(tr("&Undo %1").arg(undo.undoActionName()).trimmed());
-    _undoAction->setEnabled(undo.canUndo());
-    _redoAction->setText(tr("&Redo %1").arg(undo.redoActionName()).trimmed());
-    _redoAction->setEnabled(undo.canRedo());
-    setWindowModified(_document.isChanged());
 }
 
 void MainWindowController::enableActions()
@@ -338,7 +334,9 @@ void MainWindowController::enableActions()
     const auto removed = removedInSelection();
     _removeAction->setEnabled(removed < static_cast<qsizetype>(_tourController.selectedRows().size()));
     _restoreAction->setEnabled(removed > 0);
-    _editTitleAction->setEnabled(_tourController.selectedTour() != nullptr);
+    const bool isOne = _tourController.selectedTour() != nullptr;
+    for (auto* action : {_editTitleAction, _openTourAction, _printAction})
+        action->setEnabled(isOne);
 }
 
 QString MainWindowController::message() const
@@ -348,11 +346,7 @@ QString MainWindowController::message() const
 
 void MainWindowController::showMessage(const QString& message)
 {
-    _message->setText(message);
-    if (!message.isEmpty()) {
-        QAccessibleEvent announcement(_message, QAccessible::Alert);
-        QAccessible::updateAccessibility(&announcement);
-    }
+    _message->tell(message);
 }
 
 void MainWindowController::changeEvent(QEvent* event)

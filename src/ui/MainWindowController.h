@@ -10,6 +10,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 QT_BEGIN_NAMESPACE
 class QAction;
@@ -30,9 +31,11 @@ class ChartArrayView;
 class ConnectView;
 class Defaults;
 class ElidedLabel;
+class MessageLine;
 class Sheet;
 class TourTableModel;
 class TourTableView;
+class TourWindowController;
 
 /// The main window of one document: its tours in a table, the chart of the selected one, and the transfer
 /// from the device.
@@ -67,6 +70,11 @@ public:
     void importDump(const QString& path) { importDumps({path}); }
     /// Asks for a raw dump to import.
     void importFile();
+
+    /// Opens a further window of the selected tour.
+    void showSummaryWindow();
+    /// The windows of the document's tours, in the order in which they were opened.
+    const std::vector<TourWindowController*>& tourWindows() const { return _tourWindows; }
 
     // The transfer
 
@@ -103,7 +111,6 @@ private:
     void makeEditMenu();
     void makeTourMenu();
     void makeDeviceMenu();
-    void makeWindowMenu();
     void makeHelpMenu();
     void makeToolBar();
     QAction* addAction(QMenu& menu, const QString& text, const QKeySequence& keys,
@@ -120,10 +127,8 @@ private:
     void showTours();
     void showSummary();
     void showTitle();
-    void showUndo();
     void enableActions();
     void fillRecentMenu();
-    void fillWindowMenu();
 
     // Actions
     void newDocument();
@@ -131,20 +136,24 @@ private:
     void saveDocument();
     void saveDocumentAs();
     void revertDocument();
-    void undo();
-    void redo();
-    void deleteSelectedTour();
-    void undeleteSelectedTour();
-    void showRemoved(bool show);
     void find();
     void selectAll();
-    void editTitle();
     void checkForUpdates();
     void sendFeedback();
     void showAbout();
     void toggleSimulatedDevice();
     void showSimulatedDevice();
     void finishEditing();
+    void beginAction();
+
+    // Tours
+    void tableElementDoubleClicked();
+    void closeWindowsOfLostTours();
+    void printTour();
+    void deleteSelectedTour();
+    void undeleteSelectedTour();
+    void showRemoved(bool show);
+    void editTitle();
     qsizetype removedInSelection() const;
 
     // The transfer
@@ -188,14 +197,13 @@ private:
     ElidedLabel* _tourField = nullptr;
     QLabel* _distanceField = nullptr;
     QLabel* _speedField = nullptr;
-    ElidedLabel* _message = nullptr;
+    MessageLine* _message = nullptr;
     QLabel* _summary = nullptr;
     QLineEdit* _searchField = nullptr;
     QDockWidget* _connectDrawer = nullptr;
     ConnectView* _connectView = nullptr;
 
     QMenu* _recentMenu = nullptr;
-    QMenu* _windowMenu = nullptr;
     QAction* _transferButton = nullptr;
     QAction* _startTransferAction = nullptr;
     QAction* _stopTransferAction = nullptr;
@@ -203,13 +211,14 @@ private:
     QAction* _importAction = nullptr;
     QAction* _saveAction = nullptr;
     QAction* _revertAction = nullptr;
-    QAction* _undoAction = nullptr;
-    QAction* _redoAction = nullptr;
     QAction* _removeAction = nullptr;
     QAction* _restoreAction = nullptr;
     QAction* _showRemovedAction = nullptr;
     QAction* _editTitleAction = nullptr;
+    QAction* _openTourAction = nullptr;
+    QAction* _printAction = nullptr;
 
+    std::vector<TourWindowController*> _tourWindows;
     std::unique_ptr<OdoCom> _odoCom; ///< none while not connected
     bool _isSimulated = false;       ///< made-up rides: they take no real dump's place at home
     QElapsedTimer _sinceFirstBytes;

@@ -29,8 +29,15 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
+#include <ostream>
 #include <type_traits>
 #include <utility>
+
+/// What a failed test shows of a text.
+inline void PrintTo(const QString& text, std::ostream* out)
+{
+    *out << '"' << qPrintable(text) << '"';
+}
 
 namespace ridelog {
 
@@ -81,9 +88,10 @@ protected:
         return write("ride.odo", RideGenerator{.seed = seed, .tours = tours}.dump());
     }
     /// The action with this text, without its ampersand.
-    QAction* action(const QString& text)
+    QAction* action(const QString& text) { return action(window(), text); }
+    static QAction* action(const QWidget& of, const QString& text)
     {
-        for (auto* action : window().findChildren<QAction*>()) {
+        for (auto* action : of.findChildren<QAction*>()) {
             if (action->text().remove(u'&') == text)
                 return action;
         }
@@ -91,9 +99,10 @@ protected:
         return nullptr;
     }
     /// Chooses it, as one event.
-    void trigger(const char* text)
+    void trigger(const char* text) { trigger(window(), text); }
+    static void trigger(const QWidget& of, const char* text)
     {
-        if (auto* found = action(QString::fromUtf8(text)))
+        if (auto* found = action(of, QString::fromUtf8(text)))
             found->trigger();
         QCoreApplication::processEvents();
     }
@@ -113,8 +122,16 @@ protected:
         });
         timer->start(5);
     }
+    /// It gets the keys from now on.
+    static void inFront(QWidget& widget)
+    {
+        // A panel that has gone may still be the active window.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        widget.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&widget));
+    }
     static QString textOf(const QMessageBox& box) { return box.text() + u'\n' + box.informativeText(); }
-    static QString textOf(const QFileDialog& panel) { return panel.windowTitle(); }
+    static QString textOf(const QDialog& panel) { return panel.windowTitle(); }
     /// Presses this button of the question that comes next; `first` happens before.
     void answer(const char* button, const std::function<void()>& first = {})
     {

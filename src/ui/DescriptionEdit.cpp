@@ -1,0 +1,207 @@
+#include "ui/DescriptionEdit.h"
+
+#include "ui/StyledTextConversion.h"
+
+#include <QDesktopServices>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QSignalBlocker>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QUrl>
+
+#include <algorithm>
+#include <chrono>
+
+namespace ridelog {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto pause = 1s;
+const QString bullet = QStringLiteral("\u2022 ");
+
+} // namespace
+
+DescriptionEdit::DescriptionEdit(QWidget* parent) : QTextEdit(parent)
+{
+    setAccessibleName(tr("Description"));
+    setUndoRedoEnabled(false);
+    setTabChangesFocus(true);
+    setAutoFormatting(AutoNone);
+    _pause.setSingleShot(true);
+    _pause.setInterval(pause);
+    _pause.callOnTimeout(this, &DescriptionEdit::finishEditing);
+    connect(this, &QTextEdit::textChanged, &_pause, qOverload<>(&QTimer::start));
+}
+
+void DescriptionEdit::setStyledText(const StyledText& text)
+{
+    _pause.stop();
+    _shown = text;
+    const QSignalBlocker quiet(this);
+    const auto place = textCursor().position();
+    showStyledText(text, *document());
+    auto cursor = textCursor();
+    cursor.setPosition(std::min(place, document()->characterCount() - 1));
+    setTextCursor(cursor);
+}
+
+StyledText DescriptionEdit::styledText() const
+{
+    return editedText(_shown, *document());
+}
+
+void DescriptionEdit::finishEditing()
+{
+    _pause.stop();
+    auto text = styledText();
+    if (text == _shown)
+        return;
+    _shown = std::move(text);
+    Q_EMIT edited();
+}
+
+// Keys and mouse
+
+bool DescriptionEdit::event(QEvent* event)
+{
+    // Undo and redo are the document's.
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* key = static_cast<const QKeyEvent*>(event);
+        if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo))
+            return false;
+    }
+    return QTextEdit::event(event);
+}
+
+void DescriptionEdit::focusOutEvent(QFocusEvent* event)
+{
+    finishEditing();
+    QTextEdit::focusOutEvent(event);
+}
+
+void DescriptionEdit::keyPressEvent(QKeyEvent* event)
+{
+    const bool endsLine = event->matches(QKeySequence::InsertParagraphSeparator);
+    if (!endsLine || !goOnWithList())
+        QTextEdit::keyPressEvent(event);
+}
+
+/// The line after one of a list is another of it, but an empty one ends the list. False outside of lists.
+bool DescriptionEdit::goOnWithList()
+{
+    auto cursor = textCursor();
+    const auto line = cursor.block();
+    if (!line.text().startsWith(bullet) || cursor.hasSelection() || cursor.positionInBlock() < bullet.size())
+        return false;
+    if (line.text() == bullet) {
+        cursor.movePosition(QTextCursor::StartOfBlock, QTextCursor::KeepAnchor);
+        cursor.removeSelectedText();
+    } else {
+        cursor.insertText(u'\n' + bullet);
+    }
+    ensureCursorVisible();
+    return true;
+}
+
+void DescriptionEdit::mouseReleaseEvent(QMouseEvent* event)
+{
+    QTextEdit::mouseReleaseEvent(event);
+    // In a text that is edited a click alone moves the cursor.
+    if (event->button() == Qt::LeftButton && event->modifiers() == Qt::ControlModifier)
+        openLink(anchorAt(event->position().toPoint()));
+}
+
+void DescriptionEdit::openLink(const QString& address)
+{
+    const QUrl url(address);
+    static const QStringList schemes{QStringLiteral("http"), QStringLiteral("https"),
+                                     QStringLiteral("mailto")};
+    if (schemes.contains(url.scheme()))
+        QDesktopServices::openUrl(url);
+}
+
+bool DescriptionEdit::canInsertFromMimeData(const QMimeData* source) const
+{
+    // Files are for the window.
+    return !source->hasUrls() && (source->hasHtml() || source->hasText());
+}
+
+void DescriptionEdit::insertFromMimeData(const QMimeData* source)
+{
+    auto cursor = textCursor();
+    if (source->hasHtml()) {
+        QTextDocument pasted;
+        pasted.setHtml(source->html());
+        insertStyledText(pastedText(pasted), cursor);
+    } else {
+        cursor.insertText(source->text());
+    }
+    ensureCursorVisible();
+}
+
+// Styles
+
+void DescriptionEdit::changeFormat(const QTextCharFormat& format)
+{
+    mergeCurrentCharFormat(format);
+    finishEditing();
+}
+
+void DescriptionEdit::setBold(bool bold)
+{
+    QTextCharFormat format;
+    format.setFontWeight(bold ? QFont::Bold : QFont::Normal);
+    changeFormat(format);
+}
+
+void DescriptionEdit::setItalic(bool italic)
+{
+    QTextCharFormat format;
+    format.setFontItalic(italic);
+    changeFormat(format);
+}
+
+void DescriptionEdit::setUnderlined(bool underlined)
+{
+    QTextCharFormat format;
+    format.setFontUnderline(underlined);
+    changeFormat(format);
+}
+
+void DescriptionEdit::setLink(const QString& address)
+{
+    QTextCharFormat format;
+    format.setAnchor(!address.isEmpty());
+    format.setAnchorHref(address);
+    format.setFontUnderline(!address.isEmpty());
+    changeFormat(format);
+}
+
+QString DescriptionEdit::linkAtCursor() const
+{
+    return textCursor().charFormat().anchorHref();
+}
+
+void DescriptionEdit::toggleList()
+{
+    auto cursor = textCursor();
+    const auto first = document()->findBlock(cursor.selectionStart());
+    const auto end = document()->findBlock(cursor.selectionEnd()).next();
+    bool areAll = true;
+    for (auto line = first; line != end; line = line.next())
+        areAll = areAll && line.text().startsWith(bullet);
+    for (auto line = first; line != end; line = line.next()) {
+        cursor.setPosition(line.position());
+        if (areAll) {
+            cursor.movePosition(QTextCursor::Right, QTextCursor::KeepAnchor, static_cast<int>(bullet.size()));
+            cursor.removeSelectedText();
+        } else if (!line.text().startsWith(bullet)) {
+            cursor.insertText(bullet);
+        }
+    }
+    finishEditing();
+}
+
+} // namespace ridelog

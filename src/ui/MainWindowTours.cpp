@@ -1,0 +1,107 @@
+// What is done with the tours of the table.
+
+#include "library/MyDocument.h"
+#include "ui/Counted.h"
+#include "ui/MainWindowController.h"
+#include "ui/TourPage.h"
+#include "ui/TourTableView.h"
+#include "ui/TourWindowController.h"
+#include "ui/UiLog.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace ridelog {
+
+// Windows of tours
+
+void MainWindowController::showSummaryWindow()
+{
+    const auto tour = _tourController.selectedTour();
+    if (!tour)
+        return;
+    auto* window = new TourWindowController(_windows, _document, tour, _defaults);
+    _tourWindows.push_back(window);
+    connect(window, &QObject::destroyed, this, [this, window] { std::erase(_tourWindows, window); });
+    connect(window, &TourWindowController::activated, this, &MainWindowController::activated);
+    connect(window, &TourWindowController::aboutToStep, this, &MainWindowController::beginAction);
+    connect(window, &TourWindowController::saveRequested, this, [this, window] {
+        if (save())
+            window->showMessage(message());
+    });
+    window->show();
+}
+
+void MainWindowController::tableElementDoubleClicked()
+{
+    const auto& rows = _tourController.selectedRows();
+    qCDebug(lcUi, "tableElementDoubleClicked %d", rows.empty() ? -1 : rows.front());
+    showSummaryWindow();
+}
+
+/// What is done to a tour that is not in the document any more would be lost.
+void MainWindowController::closeWindowsOfLostTours()
+{
+    const auto& tours = _document.toursArray();
+    const auto windows = _tourWindows;
+    for (auto* window : windows) {
+        if (!std::ranges::count(tours, window->odoTour()))
+            window->close();
+    }
+}
+
+void MainWindowController::printTour()
+{
+    const auto tour = _tourController.selectedTour();
+    if (tour)
+        askToPrint(*this, tour->shownTitle(), [this, tour](QPainter& painter, QRectF page) {
+            drawTourPage(painter, page, *tour, *_chartView, _defaults);
+        });
+}
+
+// Editing
+
+qsizetype MainWindowController::removedInSelection() const
+{
+    const auto selection = _tourController.selection();
+    return std::ranges::count_if(selection, [](const auto& tour) { return tour->removed(); });
+}
+
+void MainWindowController::deleteSelectedTour()
+{
+    if (_tourController.selectedRows().empty())
+        return;
+    const auto count = static_cast<qsizetype>(_tourController.selectedRows().size()) - removedInSelection();
+    const auto row = _tourController.selectedRows().front();
+    _tourController.deleteSelectedTours();
+    // The next one, so that Delete can go on.
+    if (_tourController.selectedRows().empty())
+        _tourController.selectRow(row);
+    showMessage(counted(count, tr("1 tour removed."), tr("%1 tours removed.")) + u' ' +
+                tr("What is removed stays in the document: see Edit > Show Removed Tours."));
+    tableViewSelectionDidChange();
+}
+
+void MainWindowController::undeleteSelectedTour()
+{
+    const auto count = removedInSelection();
+    _tourController.undeleteSelectedTours();
+    showMessage(counted(count, tr("1 tour restored."), tr("%1 tours restored.")));
+    tableViewSelectionDidChange();
+}
+
+void MainWindowController::showRemoved(bool show)
+{
+    finishEditing();
+    showMessage({});
+    _tourController.setFilterDeletedItems(!show);
+    _tourController.rearrangeObjects();
+}
+
+void MainWindowController::editTitle()
+{
+    _tableView->editTitle();
+}
+
+} // namespace ridelog

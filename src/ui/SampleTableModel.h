@@ -1,0 +1,44 @@
+#pragma once
+
+#include "format/MultipFormatter.h"
+#include "model/OdoTour.h"
+
+#include <QAbstractTableModel>
+
+#include <memory>
+
+namespace ridelog {
+
+class Defaults;
+
+/// The samples of a tour for a table, one row for each entry of its series, by time.
+class SampleTableModel : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    enum Column { time, distance, altitude, speed, pulse, power, grade, temperature, cadence, columns };
+
+    /// `defaults` have to outlive it.
+    SampleTableModel(std::shared_ptr<const OdoTour> tour, const Defaults& defaults,
+                     QObject* parent = nullptr);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    const SeriesEntry& entryAt(int row) const;
+    /// For the units that the user has chosen now.
+    void reformat();
+
+private:
+    QString text(int column, const SeriesEntry& entry) const;
+
+    std::shared_ptr<const OdoTour> _tour;
+    const Defaults& _defaults;
+    MultipFormatter _distance;
+    MultipFormatter _speed;
+    MultipFormatter _altitude;
+};
+
+} // namespace ridelog

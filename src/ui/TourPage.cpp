@@ -1,0 +1,198 @@
+#include "ui/TourPage.h"
+
+#include "chart/ChartArrayView.h"
+#include "chart/ChartDrawing.h"
+#include "model/OdoTour.h"
+#include "ui/Sheet.h"
+#include "ui/StyledTextConversion.h"
+#include "ui/TourSummary.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QCoreApplication>
+#include <QFont>
+#include <QLocale>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QTextDocument>
+
+#include <algorithm>
+#include <memory>
+
+namespace ridelog {
+namespace {
+
+// Points
+constexpr int titleSize = 18;
+constexpr int textSize = 10;
+constexpr int valueSize = 9;
+constexpr double gap = 12;
+constexpr double valueLine = 12;
+constexpr double largestChartShare = 0.4; ///< of the page's height
+
+constexpr std::size_t summaryColumns = 3;
+/// Of a description that is made to fit: what is smaller nobody reads.
+constexpr double smallestScale = 0.5;
+constexpr double pointsPerInch = 72;
+
+QFont fontOf(int points, bool bold = false)
+{
+    QFont font;
+    font.setPixelSize(points); // the painter's units are points
+    font.setBold(bold);
+    return font;
+}
+
+/// One line over the whole width. Answers where it ends.
+double drawLine(QPainter& painter, QRectF page, double top, const QFont& font, const QString& text)
+{
+    const QFontMetricsF metrics(font);
+    painter.setFont(font);
+    painter.drawText(QPointF(page.left(), top + metrics.ascent()),
+                     metrics.elidedText(text, Qt::ElideRight, page.width()));
+    return top + metrics.height();
+}
+
+double drawChart(QPainter& painter, QRectF page, double top, const ChartArrayView& chart)
+{
+    const QSizeF size(page.width(), std::min(page.width() / 2, page.height() * largestChartShare));
+    painter.save();
+    painter.translate(page.left(), top);
+    ChartDrawing(painter, chart.chart(size), std::nullopt).draw();
+    painter.restore();
+    return top + size.height();
+}
+
+/// Lines that a group takes, with its heading and the room below.
+std::size_t linesOf(const SummaryGroup& group)
+{
+    return group.values.size() + 2;
+}
+
+/// The first group of each column: all stand in their order, and the longest column is as short as it can be.
+std::vector<std::size_t> firstGroups(const std::vector<SummaryGroup>& groups)
+{
+    for (std::size_t most = 1;; ++most) {
+        std::vector<std::size_t> first{0};
+        std::size_t lines = 0;
+        for (std::size_t index = 0; index < groups.size(); ++index) {
+            if (lines > 0 && lines + linesOf(groups[index]) > most) {
+                first.push_back(index);
+                lines = 0;
+            }
+            lines += linesOf(groups[index]);
+        }
+        const bool fits =
+            std::ranges::all_of(groups, [most](const auto& group) { return linesOf(group) <= most; });
+        if (fits && first.size() <= summaryColumns)
+            return first;
+    }
+}
+
+double drawSummary(QPainter& painter, QRectF page, double top, const std::vector<SummaryGroup>& groups)
+{
+    const auto first = firstGroups(groups);
+    const auto width = (page.width() - gap * (summaryColumns - 1)) / summaryColumns;
+    const QFontMetricsF metrics(fontOf(valueSize));
+    QRectF line(page.left(), top, width, valueLine);
+    auto bottom = top;
+    for (std::size_t index = 0; index < groups.size(); ++index) {
+        if (index > 0 && std::ranges::count(first, index))
+            line.moveTo(line.left() + width + gap, top);
+        painter.setFont(fontOf(valueSize, true));
+        painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, groups[index].name);
+        painter.setFont(fontOf(valueSize));
+        for (const auto& value : groups[index].values) {
+            line.translate(0, valueLine);
+            const auto room = width - metrics.horizontalAdvance(value.text) - valueSize;
+            painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
+                             metrics.elidedText(value.name, Qt::ElideRight, room));
+            painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, value.text);
+        }
+        bottom = std::max(bottom, line.bottom());
+        line.translate(0, 2 * valueLine);
+    }
+    return bottom;
+}
+
+void drawDescription(QPainter& painter, QRectF page, double top, const OdoTour& tour)
+{
+    const auto room = page.bottom() - top;
+    if (tour.shownDescription().isEmpty() || room <= 0)
+        return;
+    QTextDocument text;
+    text.setDefaultFont(fontOf(textSize));
+    text.setDocumentMargin(0);
+    showStyledText(tour.tourDescription(), text);
+    double scale = 1;
+    for (; scale > smallestScale; scale -= 0.05) {
+        text.setTextWidth(page.width() / scale);
+        if (text.size().height() * scale <= room)
+            break;
+    }
+    painter.save();
+    painter.setClipRect(QRectF(page.left(), top, page.width(), room));
+    painter.translate(page.left(), top);
+    painter.scale(scale, scale);
+    QAbstractTextDocumentLayout::PaintContext context;
+    // Paper is white in a dark theme as well.
+    context.palette.setColor(QPalette::Text, Qt::black);
+    text.documentLayout()->draw(&painter, context);
+    painter.restore();
+}
+
+} // namespace
+
+QString startAndType(const OdoTour& tour)
+{
+    const QLocale locale;
+    const auto start = locale.toString(tour.date().date(), QLocale::LongFormat) + QStringLiteral(", ") +
+                       locale.toString(tour.date().time(), QLocale::ShortFormat);
+    const auto type = tour.type();
+    return type ? start + QStringLiteral(", ") + *type : start;
+}
+
+void drawTourPage(QPainter& painter, QRectF page, const OdoTour& tour, const ChartArrayView& chart,
+                  const Defaults& defaults)
+{
+    painter.setPen(Qt::black);
+    auto top = page.top();
+    if (const auto title = tour.shownTitle(); !title.isEmpty())
+        top = drawLine(painter, page, top, fontOf(titleSize, true), title);
+    top = drawLine(painter, page, top, fontOf(textSize), startAndType(tour));
+    top = drawChart(painter, page, top + gap, chart);
+    painter.setPen(Qt::black);
+    top = drawSummary(painter, page, top + gap, tourSummary(tour, defaults));
+    drawDescription(painter, page, top + gap, tour);
+}
+
+void askToPrint(QWidget& over, const QString& name, PageDrawing draw)
+{
+    auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    printer->setDocName(name);
+    auto* panel = new QPrintDialog(printer.get(), &over);
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    panel->setOption(QAbstractPrintDialog::PrintPageRange, false);
+    QObject::connect(panel, qOverload<>(&QDialog::accepted), &over, [&over, printer, draw = std::move(draw)] {
+        QPainter painter;
+        if (painter.begin(printer.get())) {
+            const auto scale = printer->resolution() / pointsPerInch;
+            painter.scale(scale, scale);
+            draw(painter, QRectF(QPointF(), printer->pageRect(QPrinter::Point).size()));
+        }
+        if (painter.isActive() && painter.end() && printer->printerState() != QPrinter::Error)
+            return;
+        auto* sheet = new Sheet(&over, QMessageBox::Warning,
+                                QCoreApplication::translate("TourPage", "The tour was not printed."),
+                                QCoreApplication::translate("TourPage", "The printer, or the file to print "
+                                                                        "to, cannot be written."));
+        sheet->setAttribute(Qt::WA_DeleteOnClose);
+        sheet->addButton(QMessageBox::Ok);
+        sheet->open();
+    });
+    // The panel has to go before its printer.
+    QObject::connect(panel, &QObject::destroyed, &over, [printer] {});
+    panel->open();
+}
+
+} // namespace ridelog

@@ -1,0 +1,135 @@
+// Menus of a tour window.
+
+#include "library/MyDocument.h"
+#include "ui/ApplicationWindows.h"
+#include "ui/DescriptionEdit.h"
+#include "ui/SegmentedControl.h"
+#include "ui/TourWindowController.h"
+#include "ui/UndoActions.h"
+#include "ui/WindowMenu.h"
+
+#include <QAction>
+#include <QDockWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTableView>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace ridelog {
+namespace {
+
+QAction* addEntry(QMenu& menu, const QString& text, const QKeySequence& keys)
+{
+    auto* action = menu.addAction(text);
+    action->setShortcut(keys);
+    return action;
+}
+
+/// An entry for each button of the control, with the shortcuts Ctrl+`first` and so on.
+void addSegments(QMenu& menu, const SegmentedControl& control, int first)
+{
+    for (int index = 0; index < control.count(); ++index) {
+        auto& button = control.segment(index);
+        auto* action = addEntry(menu, button.text(), Qt::CTRL | static_cast<Qt::Key>(first + index));
+        action->setCheckable(true);
+        const auto show = [action, &button] {
+            action->setChecked(button.isChecked());
+            action->setEnabled(button.isEnabled());
+        };
+        QObject::connect(&menu, &QMenu::aboutToShow, action, show);
+        QObject::connect(action, &QAction::triggered, &button, [&button, show] {
+            button.click();
+            show();
+        });
+    }
+}
+
+} // namespace
+
+void TourWindowController::makeActions()
+{
+    makeFileMenu();
+    makeEditMenu();
+    makeFormatMenu();
+    makeViewMenu();
+    menuBar()->addMenu(new WindowMenu(_windows, *this));
+}
+
+void TourWindowController::makeFileMenu()
+{
+    auto& menu = *menuBar()->addMenu(tr("&File"));
+    connect(addEntry(menu, tr("&Save"), QKeySequence::Save), &QAction::triggered, this,
+            &TourWindowController::saveRequested);
+    menu.addSeparator();
+    auto* saveChartAction = addEntry(menu, tr("Save C&hart…"), Qt::CTRL | Qt::Key_E);
+    connect(saveChartAction, &QAction::triggered, this, &TourWindowController::saveChart);
+    connect(_saveChartButton, &QToolButton::clicked, this, &TourWindowController::saveChart);
+    connect(addEntry(menu, tr("&Print…"), QKeySequence::Print), &QAction::triggered, this,
+            &TourWindowController::print);
+    menu.addSeparator();
+    connect(addEntry(menu, tr("&Close"), QKeySequence::Close), &QAction::triggered, this, &QWidget::close);
+    auto* quitAction = addEntry(menu, tr("&Quit"), Qt::CTRL | Qt::Key_Q);
+    quitAction->setMenuRole(QAction::QuitRole);
+    connect(quitAction, &QAction::triggered, &_windows, &ApplicationWindows::quit);
+}
+
+void TourWindowController::makeEditMenu()
+{
+    auto& menu = *menuBar()->addMenu(tr("&Edit"));
+    auto* undo = new UndoActions(menu, _document.undoManager());
+    connect(undo, &UndoActions::chosen, this, &TourWindowController::aboutToStep);
+    menu.addSeparator();
+    auto* copyAction = addEntry(menu, tr("&Copy Samples"), QKeySequence::Copy);
+    // In a text the same keys copy words.
+    copyAction->setShortcutContext(Qt::WidgetShortcut);
+    connect(copyAction, &QAction::triggered, this, &TourWindowController::copySamples);
+    _dataTable->addAction(copyAction);
+    _dataTable->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void TourWindowController::makeFormatMenu()
+{
+    auto& menu = *menuBar()->addMenu(tr("F&ormat"));
+    const auto addStyle = [&](const QString& text, const QKeySequence& keys, auto isSet, auto set) {
+        auto* action = addEntry(menu, text, keys);
+        action->setCheckable(true);
+        connect(action, &QAction::triggered, _text, set);
+        connect(_text, &QTextEdit::currentCharFormatChanged, action,
+                [action, isSet](const QTextCharFormat& current) { action->setChecked(isSet(current)); });
+    };
+    addStyle(
+        tr("&Bold"), QKeySequence::Bold,
+        [](const QTextCharFormat& current) { return current.fontWeight() >= QFont::DemiBold; },
+        &DescriptionEdit::setBold);
+    addStyle(
+        tr("&Italic"), QKeySequence::Italic,
+        [](const QTextCharFormat& current) { return current.fontItalic(); }, &DescriptionEdit::setItalic);
+    addStyle(
+        tr("&Underline"), QKeySequence::Underline,
+        [](const QTextCharFormat& current) { return current.fontUnderline() && !current.isAnchor(); },
+        &DescriptionEdit::setUnderlined);
+    connect(addEntry(menu, tr("&List"), Qt::CTRL | Qt::SHIFT | Qt::Key_L), &QAction::triggered, _text,
+            &DescriptionEdit::toggleList);
+    connect(addEntry(menu, tr("Lin&k…"), Qt::CTRL | Qt::Key_K), &QAction::triggered, this,
+            &TourWindowController::askForLink);
+    _styleBar->addActions(menu.actions());
+    menu.addSeparator();
+    connect(addEntry(menu, tr("&Open Link"), Qt::CTRL | Qt::Key_Return), &QAction::triggered, _text,
+            [this] { _text->openLink(_text->linkAtCursor()); });
+}
+
+void TourWindowController::makeViewMenu()
+{
+    auto& menu = *menuBar()->addMenu(tr("&View"));
+    addSegments(menu, *_xSegmentControl, Qt::Key_1);
+    menu.addSeparator();
+    addSegments(menu, *_ySegmentControl, Qt::Key_3);
+    menu.addSeparator();
+    connect(addEntry(menu, tr("&Data"), Qt::CTRL | Qt::Key_D), &QAction::triggered, _dataButton,
+            &QToolButton::click);
+    connect(addEntry(menu, tr("S&ummary"), Qt::CTRL | Qt::SHIFT | Qt::Key_D), &QAction::triggered,
+            _summaryButton, &QToolButton::click);
+}
+
+} // namespace ridelog

@@ -1,0 +1,34 @@
+#include "ui/UndoActions.h"
+
+#include "platform/UndoManager.h"
+
+#include <QMenu>
+
+namespace ridelog {
+
+UndoActions::UndoActions(QMenu& menu, UndoManager& undo) : QObject(&menu), _undo(undo)
+{
+    const auto add = [&](const QKeySequence& keys, bool (UndoManager::*step)()) {
+        auto* action = menu.addAction(QString());
+        action->setShortcut(keys);
+        connect(action, &QAction::triggered, this, [this, step] {
+            Q_EMIT chosen();
+            (_undo.*step)();
+        });
+        return action;
+    };
+    _undoAction = add(QKeySequence::Undo, &UndoManager::undo);
+    _redoAction = add(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, &UndoManager::redo);
+    connect(&_undo, &UndoManager::changed, this, &UndoActions::show);
+    show();
+}
+
+void UndoActions::show()
+{
+    _undoAction->setText(tr("&Undo %1").arg(_undo.undoActionName()).trimmed());
+    _undoAction->setEnabled(_undo.canUndo());
+    _redoAction->setText(tr("&Redo %1").arg(_undo.redoActionName()).trimmed());
+    _redoAction->setEnabled(_undo.canRedo());
+}
+
+} // namespace ridelog
