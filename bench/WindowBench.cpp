@@ -1,7 +1,9 @@
 // How long the application takes from its start until the main window of a document of 1,000 tours is
-// painted, against a program that shows an empty window; and how fast a table of 10,000 tours is sorted and
-// follows the selection. Each start is a process of its own, which this program starts of itself. A display
-// is used where there is one: without a window system an empty window costs next to nothing.
+// painted, against a program that shows an empty window; how fast a table of 10,000 tours is sorted and
+// follows the selection; and how long the window of a tour of 12,000 samples takes to open, to tell the
+// values under the mouse, and to select the sample of a click. Each start is a process of its own, which this
+// program starts of itself. A display is used where there is one: without a window system an empty window
+// costs next to nothing.
 
 #include "chart/ChartArrayView.h"
 #include "library/AppController.h"
@@ -12,15 +14,19 @@
 #include "simulator/RideGenerator.h"
 #include "ui/ApplicationWindows.h"
 #include "ui/MainWindowController.h"
+#include "ui/SegmentedControl.h"
 #include "ui/TourColumns.h"
 #include "ui/TourTableView.h"
+#include "ui/TourWindowController.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMainWindow>
+#include <QMouseEvent>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTimeZone>
+#include <QToolButton>
 
 #include <algorithm>
 #include <cstdio>
@@ -34,6 +40,8 @@ using namespace ridelog;
 constexpr double promisedRatio = 2;
 constexpr double promisedSort = 100;     ///< milliseconds
 constexpr double promisedSelection = 16; ///< milliseconds
+constexpr double promisedOpening = 150;  ///< milliseconds
+constexpr double promisedAnswer = 5;     ///< milliseconds
 constexpr int starts = 15;
 
 /// Ends the program when the window has been painted: at once, what comes at an orderly end is not measured.
@@ -162,6 +170,69 @@ bool keepsTablePromises(const QTemporaryDir& folder)
     return slowest <= promisedSort && median(selections) <= promisedSelection;
 }
 
+/// Up and down hills for 66 hours.
+std::shared_ptr<OdoTour> longTour()
+{
+    TourDictionary dictionary;
+    dictionary.type = QStringLiteral("Bike");
+    dictionary.pulseAtStart = 110;
+    dictionary.month = 3;
+    dictionary.day = 10;
+    for (int sample = 0; sample < 12'000; ++sample)
+        dictionary.tourData.push_back({.pulseChange = static_cast<std::int16_t>(sample / 11 % 2 ? -3 : 3),
+                                       .altitudeChange = static_cast<std::int16_t>(sample / 90 % 2 ? -4 : 4),
+                                       .distance = 80 + sample % 61});
+    return OdoTour::initWithOdoDataTourDict(dictionary);
+}
+
+void moveOrPress(QWidget& widget, QEvent::Type type, int x)
+{
+    const QPointF place(x, 100);
+    const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, place, widget.mapToGlobal(place), button, button, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+bool keepsTourWindowPromises(const QTemporaryDir& folder)
+{
+    Defaults defaults(folder.filePath(QStringLiteral("settings")));
+    AppController controller(defaults, folder.filePath(QStringLiteral("recovery")));
+    ApplicationWindows windows(controller, defaults);
+    controller.newDocument();
+    auto& main = *windows.mainWindows().at(0);
+    main.myDocument().addNewToursFromArray({longTour()});
+    main.tourController().selectRow(0);
+    QCoreApplication::processEvents();
+
+    std::vector<double> openings;
+    for (int i = 0; i < starts; ++i) {
+        openings.push_back(milliseconds([&] { main.showSummaryWindow(); }));
+        if (i + 1 < starts)
+            delete main.tourWindows().back();
+    }
+    auto& window = *main.tourWindows().back();
+    window.resize(1600, 1000);
+    window.ySegmentControl().segment(1).click();
+    window.ySegmentControl().segment(2).click();
+    window.dataButton().click();
+    QCoreApplication::processEvents();
+    std::vector<double> hovers;
+    std::vector<double> clicks;
+    constexpr int answers = 300;
+    for (int i = 0; i < answers; ++i) {
+        const auto x = 100 + i * 19 % 1400;
+        hovers.push_back(milliseconds([&] { moveOrPress(window.chart(), QEvent::MouseMove, x); }));
+        clicks.push_back(milliseconds([&] { moveOrPress(window.chart(), QEvent::MouseButtonPress, x); }));
+    }
+    std::printf("tour of 12,000 samples: window open in %.1f ms (at most %.0f), hover %.2f ms, slowest %.2f, "
+                "click %.2f ms, slowest %.2f (at most %.0f)\n",
+                median(openings), promisedOpening, median(hovers), *std::ranges::max_element(hovers),
+                median(clicks), *std::ranges::max_element(clicks), promisedAnswer);
+    main.myDocument().undoManager().setClean();
+    return median(openings) <= promisedOpening && median(hovers) <= promisedAnswer &&
+           median(clicks) <= promisedAnswer;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -178,5 +249,6 @@ int main(int argc, char** argv)
     const QTemporaryDir folder;
     const bool startIsKept = keepsStartPromise(folder);
     const bool tableIsKept = keepsTablePromises(folder);
-    return startIsKept && tableIsKept ? 0 : 1;
+    const bool tourWindowIsKept = keepsTourWindowPromises(folder);
+    return startIsKept && tableIsKept && tourWindowIsKept ? 0 : 1;
 }

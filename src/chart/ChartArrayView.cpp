@@ -7,6 +7,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QtMath>
 
 namespace ridelog {
 
@@ -43,8 +44,27 @@ void ChartArrayView::setUseTimeFormatForX(bool useTime)
 
 void ChartArrayView::showXIndicatorUsingValue(float x)
 {
+    updateXIndicator();
     _showXIndicator = true;
     _indicatorValue = x;
+    updateXIndicator();
+}
+
+void ChartArrayView::hideXIndicator()
+{
+    updateXIndicator();
+    _showXIndicator = false;
+}
+
+/// Where it stands in the picture that is on the screen.
+void ChartArrayView::updateXIndicator()
+{
+    constexpr int reach = 3; // of a line two pixels wide, and more on a grid of pixels
+    if (!_showXIndicator || !_scaling)
+        return;
+    const auto x = _scaling->calcRealXValueFrom(_indicatorValue);
+    if (x > -reach && x < static_cast<float>(width() + reach))
+        update(qFloor(x) - reach, 0, 2 * reach + 1, height());
 }
 
 std::optional<float> ChartArrayView::indicator() const

@@ -45,10 +45,10 @@ public:
     /// Not owned; none for nobody.
     void setMouseDelegate(ChartMouseDelegate* delegate) { _mouseDelegate = delegate; }
 
-    // A line at one x value
+    // A line at one x value. It shows, moves and goes at once: only where it is and was is painted again.
 
     void showXIndicatorUsingValue(float x);
-    void hideXIndicator() { _showXIndicator = false; }
+    void hideXIndicator();
     void setIndicatorValue(float x) { _indicatorValue = x; }
     float indicatorValue() const { return _indicatorValue; }
     bool showsXIndicator() const { return _showXIndicator; }
@@ -76,6 +76,7 @@ protected:
 
 private:
     void _bindUsedPreferences();
+    void updateXIndicator();
 
     const Defaults& _defaults;
     ChartSettings _settings;

@@ -71,7 +71,6 @@ void TourWindowController::showIndicator()
         _chart->showXIndicatorUsingValue(xValueOf(_samples->entryAt(row)));
     else
         _chart->hideXIndicator();
-    _chart->update();
 }
 
 void TourWindowController::tableViewSelectionDidChange()

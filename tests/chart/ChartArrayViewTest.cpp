@@ -9,6 +9,7 @@
 #include "tests/support/Tours.h"
 
 #include <QPainter>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -105,6 +106,24 @@ TEST_F(View, AClickIsTheValueUnderIt)
     EXPECT_EQ(view->indicator(), 3.0F);
     view->hideXIndicator();
     EXPECT_FALSE(view->indicator());
+}
+
+TEST_F(View, OnlyWhereTheMarkIsAndWasIsPaintedAgain)
+{
+    view->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(view.get()));
+    const auto onScreen = [this] {
+        QCoreApplication::processEvents();
+        return view->screen()->grabWindow(view->winId()).toImage().convertToFormat(QImage::Format_RGB32);
+    };
+    const auto unmarked = onScreen();
+    for (const auto x : {0.0F, 3.0F, 3.1F, 9.7F, -40.0F, 5.0F, 1e30F, 2.0F}) {
+        view->showXIndicatorUsingValue(x);
+        EXPECT_EQ(onScreen(), picture().convertToFormat(QImage::Format_RGB32)) << x;
+    }
+    EXPECT_NE(onScreen(), unmarked);
+    view->hideXIndicator();
+    EXPECT_EQ(onScreen(), unmarked);
 }
 
 TEST_F(View, WithoutDataItIsAWhitePaperWithAxes)
