@@ -7,6 +7,8 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
 #include <QtMath>
 
 namespace ridelog {
@@ -96,6 +98,12 @@ void ChartArrayView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     _scaling.emplace(ChartDrawing(painter, chart(size()), indicator()).draw());
+    if (hasFocus()) {
+        QStyleOptionFocusRect focus;
+        focus.initFrom(this);
+        focus.backgroundColor = Qt::white;
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+    }
 }
 
 void ChartArrayView::mousePressEvent(QMouseEvent* event)

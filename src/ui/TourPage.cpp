@@ -2,6 +2,7 @@
 
 #include "chart/ChartArrayView.h"
 #include "chart/ChartDrawing.h"
+#include "library/FileOfTours.h"
 #include "model/OdoTour.h"
 #include "ui/Sheet.h"
 #include "ui/StyledTextConversion.h"
@@ -14,10 +15,12 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QTextBlock>
 #include <QTextDocument>
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 
 namespace ridelog {
 namespace {
@@ -34,6 +37,7 @@ constexpr std::size_t summaryColumns = 3;
 /// Of a description that is made to fit: what is smaller nobody reads.
 constexpr double smallestScale = 0.5;
 constexpr double pointsPerInch = 72;
+constexpr double margin = 15; ///< millimetres, until the user wants another
 
 QFont fontOf(int points, bool bold = false)
 {
@@ -115,6 +119,23 @@ double drawSummary(QPainter& painter, QRectF page, double top, const std::vector
     return bottom;
 }
 
+/// How far down the lines reach that end above `room`.
+double heightOfWholeLines(const QTextDocument& text, double room)
+{
+    double height = 0;
+    for (auto block = text.begin(); block.isValid(); block = block.next()) {
+        const auto top = text.documentLayout()->blockBoundingRect(block).top();
+        for (int index = 0; index < block.layout()->lineCount(); ++index) {
+            const auto line = block.layout()->lineAt(index);
+            const auto bottom = top + line.y() + line.height();
+            if (bottom > room)
+                return height;
+            height = bottom;
+        }
+    }
+    return height;
+}
+
 void drawDescription(QPainter& painter, QRectF page, double top, const OdoTour& tour)
 {
     const auto room = page.bottom() - top;
@@ -130,15 +151,39 @@ void drawDescription(QPainter& painter, QRectF page, double top, const OdoTour& 
         if (text.size().height() * scale <= room)
             break;
     }
+    auto height = text.size().height();
     painter.save();
-    painter.setClipRect(QRectF(page.left(), top, page.width(), room));
     painter.translate(page.left(), top);
     painter.scale(scale, scale);
+    if (height * scale > room) {
+        const QFontMetricsF metrics(text.defaultFont());
+        height = heightOfWholeLines(text, room / scale - metrics.lineSpacing());
+        painter.setFont(text.defaultFont());
+        painter.drawText(QPointF(0, height + metrics.ascent()), QStringLiteral("…"));
+    }
+    painter.setClipRect(QRectF(0, 0, page.width() / scale, height));
     QAbstractTextDocumentLayout::PaintContext context;
     // Paper is white in a dark theme as well.
     context.palette.setColor(QPalette::Text, Qt::black);
     text.documentLayout()->draw(&painter, context);
     painter.restore();
+}
+
+/// None, or why there is no page.
+std::optional<QString> print(QPrinter& printer, const PageDrawing& draw)
+{
+    if (holdsTours(printer.outputFileName()))
+        return QCoreApplication::translate("TourPage", "The file holds tours, which a page would replace.");
+    QPainter painter;
+    if (painter.begin(&printer)) {
+        const auto scale = printer.resolution() / pointsPerInch;
+        painter.scale(scale, scale);
+        draw(painter, QRectF(QPointF(), printer.pageRect(QPrinter::Point).size()));
+    }
+    if (painter.isActive() && painter.end() && printer.printerState() != QPrinter::Error)
+        return std::nullopt;
+    return QCoreApplication::translate("TourPage",
+                                       "The printer, or the file to print to, cannot be written.");
 }
 
 } // namespace
@@ -170,25 +215,13 @@ void askToPrint(QWidget& over, const QString& name, PageDrawing draw)
 {
     auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
     printer->setDocName(name);
+    printer->setPageMargins(QMarginsF(margin, margin, margin, margin), QPageLayout::Millimeter);
     auto* panel = new QPrintDialog(printer.get(), &over);
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setOption(QAbstractPrintDialog::PrintPageRange, false);
     QObject::connect(panel, qOverload<>(&QDialog::accepted), &over, [&over, printer, draw = std::move(draw)] {
-        QPainter painter;
-        if (painter.begin(printer.get())) {
-            const auto scale = printer->resolution() / pointsPerInch;
-            painter.scale(scale, scale);
-            draw(painter, QRectF(QPointF(), printer->pageRect(QPrinter::Point).size()));
-        }
-        if (painter.isActive() && painter.end() && printer->printerState() != QPrinter::Error)
-            return;
-        auto* sheet = new Sheet(&over, QMessageBox::Warning,
-                                QCoreApplication::translate("TourPage", "The tour was not printed."),
-                                QCoreApplication::translate("TourPage", "The printer, or the file to print "
-                                                                        "to, cannot be written."));
-        sheet->setAttribute(Qt::WA_DeleteOnClose);
-        sheet->addButton(QMessageBox::Ok);
-        sheet->open();
+        if (const auto error = print(*printer, draw))
+            showError(over, QCoreApplication::translate("TourPage", "The tour was not printed."), *error);
     });
     // The panel has to go before its printer.
     QObject::connect(panel, &QObject::destroyed, &over, [printer] {});

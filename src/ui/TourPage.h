@@ -20,8 +20,8 @@ class OdoTour;
 QString startAndType(const OdoTour& tour);
 
 /// Draws a tour on one page, black on white: its title, its chart as the view shows it, its summary values
-/// and its description, made smaller as far as it has to be. Units are points; what even then does not fit is
-/// cut off at the page's end.
+/// and its description, made smaller as far as it has to be. Units are points; what even then does not fit
+/// ends in three dots.
 void drawTourPage(QPainter& painter, QRectF page, const OdoTour& tour, const ChartArrayView& chart,
                   const Defaults& defaults);
 

@@ -9,6 +9,11 @@
 #include <QVBoxLayout>
 
 namespace ridelog {
+namespace {
+
+constexpr QSize usualSize(225, 250);
+
+} // namespace
 
 TourSummaryView::TourSummaryView(std::shared_ptr<const OdoTour> tour, const Defaults& defaults,
                                  QWidget* parent)
@@ -48,8 +53,20 @@ void TourSummaryView::refresh()
             ++row;
         }
     }
-    setMinimumWidth(widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width() +
-                    2 * frameWidth());
+    updateGeometry();
+}
+
+void TourSummaryView::showEvent(QShowEvent* event)
+{
+    QScrollArea::showEvent(event);
+    // Only what is shown has its style, and with it the room that it takes.
+    updateGeometry();
+}
+
+QSize TourSummaryView::minimumSizeHint() const
+{
+    const auto width = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+    return QSize(width + 2 * frameWidth(), 0).expandedTo(usualSize);
 }
 
 } // namespace ridelog

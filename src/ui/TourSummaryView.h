@@ -23,6 +23,13 @@ public:
     /// Shows the values as they are now, in the units chosen now.
     void refresh();
 
+    /// As wide as its values are.
+    QSize minimumSizeHint() const override;
+    QSize sizeHint() const override { return minimumSizeHint(); }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     std::shared_ptr<const OdoTour> _tour;
     const Defaults& _defaults;

@@ -38,7 +38,6 @@ namespace {
 
 constexpr QSize usualSize(1000, 720);
 constexpr QSize dataContentSize(200, 150);
-constexpr QSize summaryContentSize(225, 250);
 constexpr int usualDescriptionHeight = 110;
 
 enum XAxisTag { distanceTag, timeTag };
@@ -95,6 +94,8 @@ TourWindowController::TourWindowController(ApplicationWindows& windows, MyDocume
     splitter->setStretchFactor(0, 1);
     splitter->setSizes({usualSize.height(), usualDescriptionHeight});
     setCentralWidget(splitter);
+    // There are more summary values than columns of samples have to be wide.
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     makeDataDrawer();
     makeSummaryDrawer();
     _message = new MessageLine;
@@ -281,7 +282,6 @@ void TourWindowController::makeDataDrawer()
 void TourWindowController::makeSummaryDrawer()
 {
     _summary = new TourSummaryView(_odoTour, _defaults);
-    _summary->setMinimumSize(_summary->minimumSize().expandedTo(summaryContentSize));
     _summaryDrawer =
         makeDrawer(tr("Summary"), QStringLiteral("summaryDrawer"), *_summary, Qt::RightDockWidgetArea);
     connect(_summaryButton, &QToolButton::clicked, this, [this] {

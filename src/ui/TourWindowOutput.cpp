@@ -70,11 +70,7 @@ void TourWindowController::saveChartPanelDidEnd(const SaveChartPanel& panel)
         showMessage(tr("The chart was saved as %1.").arg(QDir::toNativeSeparators(path)));
         return;
     }
-    auto* sheet = new Sheet(this, QMessageBox::Warning,
-                            tr("%1 was not saved.").arg(QFileInfo(path).fileName()), *error);
-    sheet->setAttribute(Qt::WA_DeleteOnClose);
-    sheet->addButton(QMessageBox::Ok);
-    sheet->open();
+    showError(*this, tr("%1 was not saved.").arg(QFileInfo(path).fileName()), *error);
 }
 
 void TourWindowController::print()

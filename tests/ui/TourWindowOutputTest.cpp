@@ -125,6 +125,11 @@ TEST_F(TourWindowOutput, ATourIsPrintedOnOnePage)
     EXPECT_EQ(read("tour.pdf").count("/Type /Page\n"), 1);
 
     answer("OK");
+    print(dump());
+    EXPECT_TRUE(eventually([&] { return answers.children().isEmpty(); }));
+    EXPECT_TRUE(question.contains(QStringLiteral("The file holds tours")));
+    EXPECT_TRUE(holdsTours(path("ride.odo")));
+    answer("OK");
     print(path("nowhere/tour.pdf"));
     EXPECT_TRUE(eventually([&] { return answers.children().isEmpty(); }));
     EXPECT_TRUE(question.startsWith(QStringLiteral("The tour was not printed.")));
