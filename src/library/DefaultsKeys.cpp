@@ -4,6 +4,11 @@
 
 namespace ridelog::DefaultsKeys {
 
+QString tourWindowFrame(const QString& tourDescription)
+{
+    return tourDescription;
+}
+
 QString selectedXAxisValue(const QString& tourDescription)
 {
     return tourDescription + QStringLiteral(" selectedXAxisValue");

@@ -67,11 +67,13 @@ inline const QString recentDocuments =
 // Everywhere
 using UnitsKeys::useMiles; ///< bool: show miles, mph and feet
 
-// Window frames. That of a tour window stands under the tour's description.
+// Window frames
 inline const QString mainWindowFrame = QStringLiteral("MainWindow");
 inline const QString statWindowFrame = QStringLiteral("statWindow");
 inline const QString preferencesPanelFrame = QStringLiteral("PreferencesPanel");
 
+/// The frame of the window of the tour with this description.
+QString tourWindowFrame(const QString& tourDescription);
 /// Text, "time" or "distance": the x axis of the chart of the tour with this description.
 QString selectedXAxisValue(const QString& tourDescription);
 /// List of integers, 0 altitude, 1 speed, 2 pulse: what the chart of the tour with this description shows.

@@ -33,18 +33,22 @@ DescriptionEdit::DescriptionEdit(QWidget* parent) : QTextEdit(parent)
     _pause.setInterval(pause);
     _pause.callOnTimeout(this, &DescriptionEdit::finishEditing);
     connect(this, &QTextEdit::textChanged, &_pause, qOverload<>(&QTimer::start));
+    connect(this, &QTextEdit::cursorPositionChanged, this, &DescriptionEdit::leaveLink);
 }
 
 void DescriptionEdit::setStyledText(const StyledText& text)
 {
     _pause.stop();
     _shown = text;
-    const QSignalBlocker quiet(this);
     const auto place = textCursor().position();
-    showStyledText(text, *document());
-    auto cursor = textCursor();
-    cursor.setPosition(std::min(place, document()->characterCount() - 1));
-    setTextCursor(cursor);
+    {
+        const QSignalBlocker quiet(this);
+        showStyledText(text, *document());
+        auto cursor = textCursor();
+        cursor.setPosition(std::min(place, document()->characterCount() - 1));
+        setTextCursor(cursor);
+    }
+    Q_EMIT currentCharFormatChanged(currentCharFormat());
 }
 
 StyledText DescriptionEdit::styledText() const
@@ -66,11 +70,13 @@ void DescriptionEdit::finishEditing()
 
 bool DescriptionEdit::event(QEvent* event)
 {
-    // Undo and redo are the document's.
+    // Undo and redo are the document's, what was typed just now included.
     if (event->type() == QEvent::ShortcutOverride) {
         const auto* key = static_cast<const QKeyEvent*>(event);
-        if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo))
+        if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
+            finishEditing();
             return false;
+        }
     }
     return QTextEdit::event(event);
 }
@@ -113,13 +119,12 @@ void DescriptionEdit::mouseReleaseEvent(QMouseEvent* event)
         openLink(anchorAt(event->position().toPoint()));
 }
 
-void DescriptionEdit::openLink(const QString& address)
+bool DescriptionEdit::openLink(const QString& address)
 {
-    const QUrl url(address);
+    const auto url = QUrl::fromUserInput(address);
     static const QStringList schemes{QStringLiteral("http"), QStringLiteral("https"),
                                      QStringLiteral("mailto")};
-    if (schemes.contains(url.scheme()))
-        QDesktopServices::openUrl(url);
+    return schemes.contains(url.scheme()) && QDesktopServices::openUrl(url);
 }
 
 bool DescriptionEdit::canInsertFromMimeData(const QMimeData* source) const
@@ -170,13 +175,61 @@ void DescriptionEdit::setUnderlined(bool underlined)
     changeFormat(format);
 }
 
+/// All of the link that the cursor is in.
+void DescriptionEdit::selectLink()
+{
+    auto cursor = textCursor();
+    const auto address = linkAtCursor();
+    const auto block = cursor.block();
+    for (auto part = block.begin(); !part.atEnd(); ++part) {
+        const auto fragment = part.fragment();
+        const auto end = fragment.position() + fragment.length();
+        if (fragment.charFormat().anchorHref() != address || cursor.position() <= fragment.position() ||
+            cursor.position() > end)
+            continue;
+        cursor.setPosition(fragment.position());
+        cursor.setPosition(end, QTextCursor::KeepAnchor);
+        setTextCursor(cursor);
+        return;
+    }
+}
+
+/// What is typed behind a link is none of it.
+void DescriptionEdit::leaveLink()
+{
+    auto next = textCursor();
+    if (next.hasSelection() || !next.charFormat().isAnchor())
+        return;
+    const bool isAtEnd = next.atBlockEnd() || !next.movePosition(QTextCursor::NextCharacter) ||
+                         next.charFormat().anchorHref() != linkAtCursor();
+    if (!isAtEnd)
+        return;
+    auto format = currentCharFormat();
+    format.setAnchor(false);
+    format.clearProperty(QTextFormat::AnchorHref);
+    format.clearForeground();
+    format.setFontUnderline(false);
+    setCurrentCharFormat(format);
+}
+
 void DescriptionEdit::setLink(const QString& address)
 {
+    if (!textCursor().hasSelection() && !linkAtCursor().isEmpty())
+        selectLink();
+    if (!textCursor().hasSelection()) {
+        const auto from = textCursor().position();
+        textCursor().insertText(address);
+        auto inserted = textCursor();
+        inserted.setPosition(from, QTextCursor::KeepAnchor);
+        setTextCursor(inserted);
+    }
     QTextCharFormat format;
     format.setAnchor(!address.isEmpty());
     format.setAnchorHref(address);
     format.setFontUnderline(!address.isEmpty());
     changeFormat(format);
+    // As every link, or no link, is shown.
+    setStyledText(styledText());
 }
 
 QString DescriptionEdit::linkAtCursor() const

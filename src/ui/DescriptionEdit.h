@@ -19,6 +19,8 @@ public:
     void setStyledText(const StyledText& text);
     /// What it shows now.
     StyledText styledText() const;
+    /// Whether it shows what it has not told of yet.
+    bool isBeingEdited() const { return styledText() != _shown; }
     /// Tells of what was typed since the last pause at once.
     void finishEditing();
 
@@ -27,11 +29,12 @@ public:
     void setBold(bool bold);
     void setItalic(bool italic);
     void setUnderlined(bool underlined);
-    /// An empty address takes the link away.
+    /// Of the link that the cursor is in, as a whole, if nothing is selected; outside of links the address is
+    /// inserted. An empty address takes the link away.
     void setLink(const QString& address);
     QString linkAtCursor() const;
-    /// Opens a web page, or a letter, in its program. Other addresses could start anything.
-    void openLink(const QString& address);
+    /// Opens a web page, or a letter, in its program. False for other addresses, which could start anything.
+    bool openLink(const QString& address);
     /// Puts a bullet before each of the selected lines, or takes the bullets away.
     void toggleList();
 
@@ -50,6 +53,8 @@ protected:
 private:
     void changeFormat(const QTextCharFormat& format);
     bool goOnWithList();
+    void selectLink();
+    void leaveLink();
 
     StyledText _shown;
     QTimer _pause;

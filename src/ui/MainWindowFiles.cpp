@@ -105,6 +105,10 @@ void MainWindowController::saveDocumentAs()
 
 bool MainWindowController::save()
 {
+    if (_isAsking) {
+        ApplicationWindows::bringToFront(*this);
+        return false;
+    }
     finishEditing();
     if (_document.path().isEmpty())
         return saveAs();

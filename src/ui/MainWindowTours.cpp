@@ -5,10 +5,12 @@
 #include "ui/MainWindowController.h"
 #include "ui/TourPage.h"
 #include "ui/TourTableView.h"
+#include "ui/TourTexts.h"
 #include "ui/TourWindowController.h"
 #include "ui/UiLog.h"
 
 #include <QPainter>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -26,8 +28,9 @@ void MainWindowController::showSummaryWindow()
     connect(window, &QObject::destroyed, this, [this, window] { std::erase(_tourWindows, window); });
     connect(window, &TourWindowController::activated, this, &MainWindowController::activated);
     connect(window, &TourWindowController::aboutToStep, this, &MainWindowController::beginAction);
-    connect(window, &TourWindowController::saveRequested, this, [this, window] {
-        if (save())
+    connect(window, &TourWindowController::saveRequested, this, [this, window = QPointer(window)] {
+        // It may be closed while a name for the document is asked for.
+        if (save() && window)
             window->showMessage(message());
     });
     window->show();
@@ -55,9 +58,12 @@ void MainWindowController::printTour()
 {
     const auto tour = _tourController.selectedTour();
     if (tour)
-        askToPrint(*this, tour->shownTitle(), [this, tour](QPainter& painter, QRectF page) {
-            drawTourPage(painter, page, *tour, *_chartView, _defaults);
-        });
+        askToPrint(
+            *this, fileNameOf(*tour),
+            [this, tour](QPainter& painter, QRectF page) {
+                drawTourPage(painter, page, *tour, *_chartView, _defaults);
+            },
+            [this](const QString& error) { showMessage(error); });
 }
 
 // Editing

@@ -5,6 +5,7 @@
 #include "format/UnitFormatters.h"
 #include "library/DefaultsKeys.h"
 #include "platform/Defaults.h"
+#include "ui/TourTexts.h"
 
 #include <QLocale>
 
@@ -63,7 +64,7 @@ QString SampleTableModel::text(int column, const SeriesEntry& entry) const
     case power:
         return QLocale().toString(entry.power);
     case grade:
-        return QLocale().toString(static_cast<double>(entry.climbingPercentage), 'f', 1);
+        return gradeText(entry.climbingPercentage);
     case temperature:
         return QLocale().toString(entry.temperature);
     case cadence:

@@ -3,15 +3,17 @@
 #include "chart/ChartPicture.h"
 
 #include <QCheckBox>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSpinBox>
 
+#include <algorithm>
+#include <array>
+
 namespace ridelog {
 namespace {
-
-const QString usualEnding = QStringLiteral("jpeg");
 
 QSpinBox* sideField(const QString& name, int pixels)
 {
@@ -22,14 +24,19 @@ QSpinBox* sideField(const QString& name, int pixels)
     return field;
 }
 
-/// The first ending that a filter of names like "PNG (*.png)" lets through.
-QString endingOf(const QString& filter)
+struct Type {
+    QString filter;
+    QString ending; ///< that names get of themselves
+};
+
+const std::array types{Type{QStringLiteral("JPEG (*.jpeg *.jpg)"), QStringLiteral("jpeg")},
+                       Type{QStringLiteral("PNG (*.png)"), QStringLiteral("png")},
+                       Type{QStringLiteral("SVG (*.svg)"), QStringLiteral("svg")},
+                       Type{QStringLiteral("PDF (*.pdf)"), QStringLiteral("pdf")}};
+
+bool isPictureName(const QString& name)
 {
-    for (const auto& ending : chartPictureEndings()) {
-        if (filter.contains(QStringLiteral("(*.") + ending))
-            return ending;
-    }
-    return usualEnding;
+    return chartPictureEndings().contains(QFileInfo(name).suffix().toLower());
 }
 
 } // namespace
@@ -43,12 +50,12 @@ SaveChartPanel::SaveChartPanel(QWidget* over, const QString& name, QSize size)
     // The desktop's own panel has no room for the size.
     setOption(DontUseNativeDialog);
     setAcceptMode(AcceptSave);
-    setNameFilters({tr("JPEG (*.jpeg *.jpg)"), tr("PNG (*.png)"), tr("SVG (*.svg)"), tr("PDF (*.pdf)"),
-                    tr("All files (*)")});
-    setDefaultSuffix(usualEnding);
-    connect(this, &QFileDialog::filterSelected, this,
-            [this](const QString& filter) { setDefaultSuffix(endingOf(filter)); });
-    selectFile(name);
+    QStringList filters;
+    for (const auto& type : types)
+        filters << type.filter;
+    setNameFilters(filters);
+    connect(this, &QFileDialog::filterSelected, this, &SaveChartPanel::takeEnding);
+    selectFile(name + u'.' + types.front().ending);
 
     auto* row = new QHBoxLayout;
     row->addWidget(_chartSaveWidth);
@@ -63,6 +70,30 @@ SaveChartPanel::SaveChartPanel(QWidget* over, const QString& name, QSize size)
         grid->addWidget(new QLabel(tr("Size:")), last, 0);
         grid->addLayout(row, last, 1);
     }
+}
+
+QString SaveChartPanel::ending() const
+{
+    const auto* type = std::ranges::find(types, selectedNameFilter(), &Type::filter);
+    return (type == types.end() ? types.front() : *type).ending;
+}
+
+/// The name goes over to the chosen type.
+void SaveChartPanel::takeEnding()
+{
+    const auto name = selectedFiles().value(0);
+    const auto whole = isPictureName(name) ? name.left(name.lastIndexOf(u'.')) : name;
+    if (!name.isEmpty() && !QFileInfo(name).isDir())
+        selectFile(whole + u'.' + ending());
+}
+
+/// A name that ends otherwise gets the ending of the chosen type, which is asked for then if it is taken.
+void SaveChartPanel::accept()
+{
+    const auto name = selectedFiles().value(0);
+    if (!name.isEmpty() && !isPictureName(name) && !QFileInfo(name).isDir())
+        selectFile(name + u'.' + ending());
+    QFileDialog::accept();
 }
 
 QSize SaveChartPanel::chartSaveSize() const

@@ -25,7 +25,13 @@ public:
     QSpinBox& chartSaveHeight() { return *_chartSaveHeight; }
     QCheckBox& setAsDefaultBtn() { return *_setAsDefaultBtn; }
 
+public Q_SLOTS:
+    void accept() override;
+
 private:
+    QString ending() const;
+    void takeEnding();
+
     QSpinBox* _chartSaveWidth;
     QSpinBox* _chartSaveHeight;
     QCheckBox* _setAsDefaultBtn;

@@ -1,7 +1,8 @@
 #include "ui/SegmentedControl.h"
 
+#include "ui/ToggleButton.h"
+
 #include <QHBoxLayout>
-#include <QToolButton>
 
 #include <algorithm>
 
@@ -16,11 +17,8 @@ SegmentedControl::SegmentedControl(Choice choice, QWidget* parent)
 
 void SegmentedControl::addSegment(const QString& label, int tag)
 {
-    auto* button = new QToolButton;
-    button->setText(label);
-    button->setCheckable(true);
+    auto* button = new ToggleButton(label);
     button->setAutoExclusive(_choice == Choice::one);
-    button->setFocusPolicy(Qt::StrongFocus);
     const auto index = count();
     connect(button, &QToolButton::clicked, this, [this, index] { Q_EMIT clicked(index); });
     _layout->addWidget(button);

@@ -24,13 +24,4 @@ public:
     }
 };
 
-/// Says what went wrong over a window, which can go meanwhile.
-inline void showError(QWidget& over, const QString& what, const QString& reason)
-{
-    auto* sheet = new Sheet(&over, QMessageBox::Warning, what, reason);
-    sheet->setAttribute(Qt::WA_DeleteOnClose);
-    sheet->addButton(QMessageBox::Ok);
-    sheet->open();
-}
-
 } // namespace ridelog

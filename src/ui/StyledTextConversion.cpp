@@ -1,5 +1,7 @@
 #include "ui/StyledTextConversion.h"
 
+#include <QGuiApplication>
+#include <QPalette>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -46,6 +48,7 @@ QTextCharFormat formatOf(const StyledText::Style& style)
     if (!style.link.isEmpty()) {
         format.setAnchor(true);
         format.setAnchorHref(style.link);
+        format.setForeground(QGuiApplication::palette().link());
     }
     return format;
 }

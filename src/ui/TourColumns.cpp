@@ -6,6 +6,7 @@
 #include "library/DefaultsKeys.h"
 #include "library/TourSorting.h"
 #include "platform/Defaults.h"
+#include "ui/TourTexts.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -66,12 +67,10 @@ QString durationText(const OdoTour& tour, const TourColumns&)
     return TimeFormatter().stringForObjectValue(tour.duration());
 }
 
-/// A device without a belt records zeros.
 template <auto value>
 QString pulseText(const OdoTour& tour, const TourColumns&)
 {
-    const auto pulse = (tour.*value)();
-    return pulse == 0 ? QString() : QLocale().toString(static_cast<double>(pulse), 'f', 0);
+    return ridelog::pulseText((tour.*value)());
 }
 
 QString climbsText(const OdoTour& tour, const TourColumns&)
@@ -81,18 +80,17 @@ QString climbsText(const OdoTour& tour, const TourColumns&)
 
 QString gradeText(const OdoTour& tour, const TourColumns&)
 {
-    return QLocale().toString(static_cast<double>(tour.maxClimbingPercentage()), 'f', 1);
+    return ridelog::gradeText(tour.maxClimbingPercentage());
 }
 
 QString powerText(const OdoTour& tour, const TourColumns&)
 {
-    return QLocale().toString(tour.avgPower(), 'f', 0);
+    return ridelog::powerText(tour.avgPower());
 }
 
 QString temperatureText(const OdoTour& tour, const TourColumns&)
 {
-    const auto temperature = tour.avgTemperature();
-    return temperature ? QLocale().toString(static_cast<double>(*temperature), 'f', 1) : QString();
+    return ridelog::temperatureText(tour.avgTemperature(), 1);
 }
 
 const TourColumn columns[] = {

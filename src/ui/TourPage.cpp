@@ -4,14 +4,13 @@
 #include "chart/ChartDrawing.h"
 #include "library/FileOfTours.h"
 #include "model/OdoTour.h"
-#include "ui/Sheet.h"
 #include "ui/StyledTextConversion.h"
 #include "ui/TourSummary.h"
+#include "ui/TourTexts.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QCoreApplication>
 #include <QFont>
-#include <QLocale>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -146,22 +145,23 @@ void drawDescription(QPainter& painter, QRectF page, double top, const OdoTour& 
     text.setDocumentMargin(0);
     showStyledText(tour.tourDescription(), text);
     double scale = 1;
-    for (; scale > smallestScale; scale -= 0.05) {
+    const auto height = [&] {
         text.setTextWidth(page.width() / scale);
-        if (text.size().height() * scale <= room)
-            break;
-    }
-    auto height = text.size().height();
+        return text.size().height();
+    };
+    while (height() * scale > room && scale > smallestScale)
+        scale = std::max(scale - 0.05, smallestScale);
+    auto shown = height();
     painter.save();
     painter.translate(page.left(), top);
     painter.scale(scale, scale);
-    if (height * scale > room) {
+    if (shown * scale > room) {
         const QFontMetricsF metrics(text.defaultFont());
-        height = heightOfWholeLines(text, room / scale - metrics.lineSpacing());
+        shown = heightOfWholeLines(text, room / scale - metrics.lineSpacing());
         painter.setFont(text.defaultFont());
-        painter.drawText(QPointF(0, height + metrics.ascent()), QStringLiteral("…"));
+        painter.drawText(QPointF(0, shown + metrics.ascent()), QStringLiteral("…"));
     }
-    painter.setClipRect(QRectF(0, 0, page.width() / scale, height));
+    painter.setClipRect(QRectF(0, 0, page.width() / scale, shown));
     QAbstractTextDocumentLayout::PaintContext context;
     // Paper is white in a dark theme as well.
     context.palette.setColor(QPalette::Text, Qt::black);
@@ -173,7 +173,9 @@ void drawDescription(QPainter& painter, QRectF page, double top, const OdoTour& 
 std::optional<QString> print(QPrinter& printer, const PageDrawing& draw)
 {
     if (holdsTours(printer.outputFileName()))
-        return QCoreApplication::translate("TourPage", "The file holds tours, which a page would replace.");
+        return QCoreApplication::translate("TourPage",
+                                           "The tour was not printed: the file holds tours, which "
+                                           "a page would replace.");
     QPainter painter;
     if (painter.begin(&printer)) {
         const auto scale = printer.resolution() / pointsPerInch;
@@ -182,20 +184,12 @@ std::optional<QString> print(QPrinter& printer, const PageDrawing& draw)
     }
     if (painter.isActive() && painter.end() && printer.printerState() != QPrinter::Error)
         return std::nullopt;
-    return QCoreApplication::translate("TourPage",
-                                       "The printer, or the file to print to, cannot be written.");
+    return QCoreApplication::translate(
+        "TourPage", "The tour was not printed: the printer, or the file to print to, cannot "
+                    "be written.");
 }
 
 } // namespace
-
-QString startAndType(const OdoTour& tour)
-{
-    const QLocale locale;
-    const auto start = locale.toString(tour.date().date(), QLocale::LongFormat) + QStringLiteral(", ") +
-                       locale.toString(tour.date().time(), QLocale::ShortFormat);
-    const auto type = tour.type();
-    return type ? start + QStringLiteral(", ") + *type : start;
-}
 
 void drawTourPage(QPainter& painter, QRectF page, const OdoTour& tour, const ChartArrayView& chart,
                   const Defaults& defaults)
@@ -211,7 +205,8 @@ void drawTourPage(QPainter& painter, QRectF page, const OdoTour& tour, const Cha
     drawDescription(painter, page, top + gap, tour);
 }
 
-void askToPrint(QWidget& over, const QString& name, PageDrawing draw)
+void askToPrint(QWidget& over, const QString& name, PageDrawing draw,
+                std::function<void(const QString&)> tell)
 {
     auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
     printer->setDocName(name);
@@ -219,10 +214,11 @@ void askToPrint(QWidget& over, const QString& name, PageDrawing draw)
     auto* panel = new QPrintDialog(printer.get(), &over);
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setOption(QAbstractPrintDialog::PrintPageRange, false);
-    QObject::connect(panel, qOverload<>(&QDialog::accepted), &over, [&over, printer, draw = std::move(draw)] {
-        if (const auto error = print(*printer, draw))
-            showError(over, QCoreApplication::translate("TourPage", "The tour was not printed."), *error);
-    });
+    QObject::connect(panel, qOverload<>(&QDialog::accepted), &over,
+                     [printer, draw = std::move(draw), tell = std::move(tell)] {
+                         if (const auto error = print(*printer, draw))
+                             tell(*error);
+                     });
     // The panel has to go before its printer.
     QObject::connect(panel, &QObject::destroyed, &over, [printer] {});
     panel->open();

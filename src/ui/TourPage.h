@@ -16,9 +16,6 @@ class ChartArrayView;
 class Defaults;
 class OdoTour;
 
-/// When the tour began, and of which type it is, in a line for people.
-QString startAndType(const OdoTour& tour);
-
 /// Draws a tour on one page, black on white: its title, its chart as the view shows it, its summary values
 /// and its description, made smaller as far as it has to be. Units are points; what even then does not fit
 /// ends in three dots.
@@ -27,7 +24,8 @@ void drawTourPage(QPainter& painter, QRectF page, const OdoTour& tour, const Cha
 
 /// Draws on a page, in points.
 using PageDrawing = std::function<void(QPainter& painter, QRectF page)>;
-/// Asks for a printer and prints one page. Errors are told over the same window.
-void askToPrint(QWidget& over, const QString& name, PageDrawing draw);
+/// Asks for a printer and prints one page. `tell` is called with what went wrong, in a sentence.
+void askToPrint(QWidget& over, const QString& name, PageDrawing draw,
+                std::function<void(const QString&)> tell);
 
 } // namespace ridelog

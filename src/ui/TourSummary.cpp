@@ -6,6 +6,7 @@
 #include "library/DefaultsKeys.h"
 #include "model/OdoTour.h"
 #include "platform/Defaults.h"
+#include "ui/TourTexts.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -36,9 +37,9 @@ struct Value {
     QString (*text)(const OdoTour& tour, const Writer& writer);
 };
 
-QString number(double value, int decimals, const QString& unit)
+QString withUnit(const QString& text, const QString& unit)
 {
-    return QLocale().toString(value, 'f', decimals) + unit;
+    return text.isEmpty() ? text : text + unit;
 }
 
 template <auto value>
@@ -68,27 +69,25 @@ QString count(const OdoTour& tour, const Writer&)
 template <auto value>
 QString grade(const OdoTour& tour, const Writer&)
 {
-    return number(static_cast<double>((tour.*value)()), 1, QStringLiteral(" %"));
+    return withUnit(gradeText((tour.*value)()), QStringLiteral(" %"));
 }
 
 template <auto value>
 QString angle(const OdoTour& tour, const Writer&)
 {
-    return number(static_cast<double>((tour.*value)()), 1, QStringLiteral("°"));
+    return QLocale().toString(static_cast<double>((tour.*value)()), 'f', 1) + u'°';
 }
 
-/// A device without a belt records zeros.
 template <auto value>
 QString pulse(const OdoTour& tour, const Writer&)
 {
-    const auto beats = (tour.*value)();
-    return beats == 0 ? QString() : number(static_cast<double>(beats), 0, QString());
+    return pulseText((tour.*value)());
 }
 
 template <auto value>
 QString power(const OdoTour& tour, const Writer&)
 {
-    return number(static_cast<double>((tour.*value)()), 0, QStringLiteral(" W"));
+    return withUnit(powerText(static_cast<double>((tour.*value)())), QStringLiteral(" W"));
 }
 
 /// Without samples the highest and the lowest are where the search for them began.
@@ -96,7 +95,7 @@ template <auto value, int decimals>
 QString temperature(const OdoTour& tour, const Writer&)
 {
     const std::optional<float> celsius = tour.tourData().empty() ? std::nullopt : (tour.*value)();
-    return celsius ? number(static_cast<double>(*celsius), decimals, QStringLiteral(" °C")) : QString();
+    return withUnit(temperatureText(celsius, decimals), QStringLiteral(" °C"));
 }
 
 QString duration(const OdoTour& tour, const Writer&)

@@ -9,11 +9,6 @@
 #include <QVBoxLayout>
 
 namespace ridelog {
-namespace {
-
-constexpr QSize usualSize(225, 250);
-
-} // namespace
 
 TourSummaryView::TourSummaryView(std::shared_ptr<const OdoTour> tour, const Defaults& defaults,
                                  QWidget* parent)
@@ -40,6 +35,7 @@ TourSummaryView::TourSummaryView(std::shared_ptr<const OdoTour> tour, const Defa
     setWidget(groups);
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setAccessibleName(tr("Summary"));
     refresh();
 }
 
@@ -66,7 +62,7 @@ void TourSummaryView::showEvent(QShowEvent* event)
 QSize TourSummaryView::minimumSizeHint() const
 {
     const auto width = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
-    return QSize(width + 2 * frameWidth(), 0).expandedTo(usualSize);
+    return {width + 2 * frameWidth(), QScrollArea::minimumSizeHint().height()};
 }
 
 } // namespace ridelog

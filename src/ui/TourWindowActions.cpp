@@ -9,6 +9,7 @@
 #include "ui/WindowMenu.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QDockWidget>
 #include <QMenu>
 #include <QMenuBar>
@@ -26,29 +27,34 @@ QAction* addEntry(QMenu& menu, const QString& text, const QKeySequence& keys)
     return action;
 }
 
+/// An entry that presses a button, and shows whether it is down.
+void addButtonEntry(QMenu& menu, const QString& text, QAbstractButton& button, const QKeySequence& keys = {})
+{
+    auto* action = addEntry(menu, text, keys);
+    action->setCheckable(true);
+    const auto show = [action, &button] { action->setChecked(button.isChecked()); };
+    QObject::connect(&menu, &QMenu::aboutToShow, action, show);
+    QObject::connect(action, &QAction::triggered, &button, [&button, show] {
+        button.click();
+        show();
+    });
+}
+
 /// An entry for each button of the control, with the shortcuts Ctrl+`first` and so on.
 void addSegments(QMenu& menu, const SegmentedControl& control, int first)
 {
-    for (int index = 0; index < control.count(); ++index) {
-        auto& button = control.segment(index);
-        auto* action = addEntry(menu, button.text(), Qt::CTRL | static_cast<Qt::Key>(first + index));
-        action->setCheckable(true);
-        const auto show = [action, &button] {
-            action->setChecked(button.isChecked());
-            action->setEnabled(button.isEnabled());
-        };
-        QObject::connect(&menu, &QMenu::aboutToShow, action, show);
-        QObject::connect(action, &QAction::triggered, &button, [&button, show] {
-            button.click();
-            show();
-        });
-    }
+    for (int index = 0; index < control.count(); ++index)
+        addButtonEntry(menu, control.segment(index).text(), control.segment(index),
+                       Qt::CTRL | static_cast<Qt::Key>(first + index));
+    menu.addSeparator();
 }
 
 } // namespace
 
 void TourWindowController::makeActions()
 {
+    // What the last action led to has been read.
+    connect(menuBar(), &QMenuBar::triggered, this, [this] { showMessage({}); });
     makeFileMenu();
     makeEditMenu();
     makeFormatMenu();
@@ -62,9 +68,9 @@ void TourWindowController::makeFileMenu()
     connect(addEntry(menu, tr("&Save"), QKeySequence::Save), &QAction::triggered, this,
             &TourWindowController::saveRequested);
     menu.addSeparator();
-    auto* saveChartAction = addEntry(menu, tr("Save C&hart…"), Qt::CTRL | Qt::Key_E);
+    auto* saveChartAction = addEntry(menu, tr("Save C&hart…"), Qt::CTRL | Qt::SHIFT | Qt::Key_E);
     connect(saveChartAction, &QAction::triggered, this, &TourWindowController::saveChart);
-    connect(_saveChartButton, &QToolButton::clicked, this, &TourWindowController::saveChart);
+    connect(_saveChartButton, &QToolButton::clicked, saveChartAction, &QAction::trigger);
     connect(addEntry(menu, tr("&Print…"), QKeySequence::Print), &QAction::triggered, this,
             &TourWindowController::print);
     menu.addSeparator();
@@ -79,11 +85,15 @@ void TourWindowController::makeEditMenu()
     auto& menu = *menuBar()->addMenu(tr("&Edit"));
     auto* undo = new UndoActions(menu, _document.undoManager());
     connect(undo, &UndoActions::chosen, this, &TourWindowController::aboutToStep);
+    // What is being typed is the first step that can be taken back.
+    connect(&menu, &QMenu::aboutToShow, this, &TourWindowController::finishEditing);
     menu.addSeparator();
     auto* copyAction = addEntry(menu, tr("&Copy Samples"), QKeySequence::Copy);
     // In a text the same keys copy words.
     copyAction->setShortcutContext(Qt::WidgetShortcut);
     connect(copyAction, &QAction::triggered, this, &TourWindowController::copySamples);
+    connect(addEntry(menu, tr("Copy Su&mmary"), Qt::CTRL | Qt::SHIFT | Qt::Key_C), &QAction::triggered, this,
+            &TourWindowController::copySummary);
     _dataTable->addAction(copyAction);
     _dataTable->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
@@ -115,21 +125,21 @@ void TourWindowController::makeFormatMenu()
             &TourWindowController::askForLink);
     _styleBar->addActions(menu.actions());
     menu.addSeparator();
-    connect(addEntry(menu, tr("&Open Link"), Qt::CTRL | Qt::Key_Return), &QAction::triggered, _text,
-            [this] { _text->openLink(_text->linkAtCursor()); });
+    connect(addEntry(menu, tr("&Open Link"), Qt::CTRL | Qt::Key_Return), &QAction::triggered, _text, [this] {
+        if (!_text->openLink(_text->linkAtCursor()))
+            showMessage(tr("Here is no link to a page or a mail address that could be opened."));
+    });
 }
 
 void TourWindowController::makeViewMenu()
 {
     auto& menu = *menuBar()->addMenu(tr("&View"));
     addSegments(menu, *_xSegmentControl, Qt::Key_1);
-    menu.addSeparator();
     addSegments(menu, *_ySegmentControl, Qt::Key_3);
+    addButtonEntry(menu, tr("&Manual Range of Altitudes"), *_useManualRange);
     menu.addSeparator();
-    connect(addEntry(menu, tr("&Data"), Qt::CTRL | Qt::Key_D), &QAction::triggered, _dataButton,
-            &QToolButton::click);
-    connect(addEntry(menu, tr("S&ummary"), Qt::CTRL | Qt::SHIFT | Qt::Key_D), &QAction::triggered,
-            _summaryButton, &QToolButton::click);
+    addButtonEntry(menu, tr("&Data"), *_dataButton, Qt::CTRL | Qt::Key_D);
+    addButtonEntry(menu, tr("S&ummary"), *_summaryButton, Qt::CTRL | Qt::SHIFT | Qt::Key_D);
 }
 
 } // namespace ridelog

@@ -1,16 +1,13 @@
 #include "ui/TourWindowController.h"
 
-#include "format/UnitFormatters.h"
 #include "library/DefaultsKeys.h"
 #include "library/MyDocument.h"
-#include "model/SeriesNames.h"
 #include "platform/Defaults.h"
 #include "ui/DescriptionEdit.h"
 #include "ui/FileDrop.h"
 #include "ui/MessageLine.h"
 #include "ui/SampleTableModel.h"
-#include "ui/SegmentedControl.h"
-#include "ui/TourOverX.h"
+#include "ui/ToggleButton.h"
 #include "ui/TourSummaryView.h"
 #include "ui/UiLog.h"
 #include "ui/WindowFrame.h"
@@ -38,36 +35,8 @@ namespace {
 
 constexpr QSize usualSize(1000, 720);
 constexpr QSize dataContentSize(200, 150);
+constexpr QSize summaryContentSize(225, 250);
 constexpr int usualDescriptionHeight = 110;
-
-enum XAxisTag { distanceTag, timeTag };
-
-/// What a segment of this tag shows.
-struct SeriesSegment {
-    int tag;
-    QString name;
-};
-
-const SeriesSegment seriesSegments[] = {
-    {0, SeriesNames::altitude},
-    {1, SeriesNames::speed},
-    {2, SeriesNames::pulse},
-};
-
-const QString* seriesWithTag(int tag)
-{
-    const auto* found = std::ranges::find(seriesSegments, tag, &SeriesSegment::tag);
-    return found == std::end(seriesSegments) ? nullptr : &found->name;
-}
-
-QToolButton* addButton(QHBoxLayout& layout, const QString& text)
-{
-    auto* button = new QToolButton;
-    button->setText(text);
-    button->setFocusPolicy(Qt::StrongFocus);
-    layout.addWidget(button);
-    return button;
-}
 
 } // namespace
 
@@ -86,6 +55,7 @@ TourWindowController::TourWindowController(ApplicationWindows& windows, MyDocume
     auto* layout = new QVBoxLayout(upper);
     layout->addWidget(makeHead());
     layout->addWidget(makeControls());
+    layout->addWidget(makeRange());
     layout->addWidget(makeChart(), 1);
     auto* splitter = new QSplitter(Qt::Vertical);
     splitter->setChildrenCollapsible(false);
@@ -107,7 +77,7 @@ TourWindowController::TourWindowController(ApplicationWindows& windows, MyDocume
     restoreAxes();
     showRanges();
     readLabelsAndSetChartNames();
-    if (!restoreFrame(*this, _defaults, _odoTour->description()))
+    if (!restoreFrame(*this, _defaults, DefaultsKeys::tourWindowFrame(_odoTour->description())))
         resize(usualSize.boundedTo(screen()->availableSize()));
     setupGUI();
     connect(&_document.tourChanges(), &TourChanges::changed, this, [this](const OdoTour& changed) {
@@ -122,7 +92,10 @@ TourWindowController::~TourWindowController()
 {
     qCDebug(lcUi, "--- TourWindowController dealloc ---");
     finishEditing();
-    storeFrame(*this, _defaults, _odoTour->description());
+    storeFrame(*this, _defaults, DefaultsKeys::tourWindowFrame(_odoTour->description()));
+    // They would tell of their end when there is nobody left to be told.
+    delete _dataTableDrawer;
+    delete _summaryDrawer;
 }
 
 // Set-up
@@ -135,6 +108,7 @@ QWidget* TourWindowController::makeHead()
     _title = new QLineEdit;
     _title->setAccessibleName(tr("Title"));
     _title->setPlaceholderText(tr("Title"));
+    _title->setAcceptDrops(false); // files are for the window
     _title->setMaxLength(std::numeric_limits<int>::max());
     _title->installEventFilter(this);
     connect(_title, &QLineEdit::editingFinished, this, &TourWindowController::commitTitle);
@@ -149,54 +123,47 @@ QWidget* TourWindowController::makeHead()
 QWidget* TourWindowController::makeControls()
 {
     auto* controls = new QWidget;
-    auto& layout = *new QHBoxLayout(controls);
-    layout.setContentsMargins(0, 0, 0, 0);
+    auto* layout = new QHBoxLayout(controls);
+    layout->setContentsMargins(0, 0, 0, 0);
+    addAxisControls(*layout);
+    layout->addSpacing(12);
+    layout->addStretch();
+    _dataButton = new ToggleButton(tr("Data"));
+    _summaryButton = new ToggleButton(tr("Summary"));
+    _saveChartButton = new QToolButton;
+    _saveChartButton->setText(tr("Save Chart…"));
+    _saveChartButton->setFocusPolicy(Qt::StrongFocus);
+    for (auto* button : {_dataButton, _summaryButton, _saveChartButton})
+        layout->addWidget(button);
+    return controls;
+}
 
-    _xSegmentControl = new SegmentedControl(SegmentedControl::Choice::one);
-    _xSegmentControl->setAccessibleName(tr("Horizontal axis"));
-    _xSegmentControl->addSegment(tr("Distance"), distanceTag);
-    _xSegmentControl->addSegment(tr("Time"), timeTag);
-    connect(_xSegmentControl, &SegmentedControl::clicked, this,
-            [this](int segment) { setXAxisTag(_xSegmentControl->tagOf(segment)); });
-    layout.addWidget(_xSegmentControl);
-    layout.addSpacing(12);
-
-    _ySegmentControl = new SegmentedControl(SegmentedControl::Choice::several);
-    _ySegmentControl->setAccessibleName(tr("Series"));
-    _ySegmentControl->addSegment(tr("Altitude"), 0);
-    _ySegmentControl->addSegment(tr("Speed"), 1);
-    _ySegmentControl->addSegment(tr("Pulse"), 2);
-    connect(_ySegmentControl, &SegmentedControl::clicked, this,
-            &TourWindowController::ySegmentedControlClicked);
-    layout.addWidget(_ySegmentControl);
-    layout.addSpacing(12);
-
+QWidget* TourWindowController::makeRange()
+{
     _useManualRange = new QCheckBox(tr("&Altitudes from"));
     connect(_useManualRange, &QCheckBox::clicked, this,
             [this](bool use) { _defaults.setValue(DefaultsKeys::useManualRange, use); });
-    const auto makeRange = [this](const QString& name, const QString& key) {
+    const auto makeField = [this](const QString& name, const QString& key) {
         auto* field = new QLineEdit;
         field->setAccessibleName(name);
-        field->setMaximumWidth(fontMetrics().horizontalAdvance(QStringLiteral("-00000.00")));
+        field->setFixedWidth(fontMetrics().horizontalAdvance(QStringLiteral("-00000.00")));
         connect(field, &QLineEdit::editingFinished, this, [this, field, key] { commitRange(*field, key); });
         return field;
     };
-    _minRangeTextField = makeRange(tr("Lowest altitude of the chart"), DefaultsKeys::minRange);
-    _maxRangeTextField = makeRange(tr("Highest altitude of the chart"), DefaultsKeys::maxRange);
-    layout.addWidget(_useManualRange);
-    layout.addWidget(_minRangeTextField);
-    layout.addWidget(new QLabel(tr("to")));
-    layout.addWidget(_maxRangeTextField);
+    _minRangeTextField = makeField(tr("Lowest altitude of the chart"), DefaultsKeys::minRange);
+    _maxRangeTextField = makeField(tr("Highest altitude of the chart"), DefaultsKeys::maxRange);
     _rangeUnit = new QLabel;
-    layout.addWidget(_rangeUnit);
-    layout.addStretch();
 
-    _dataButton = addButton(layout, tr("Data"));
-    _dataButton->setCheckable(true);
-    _summaryButton = addButton(layout, tr("Summary"));
-    _summaryButton->setCheckable(true);
-    _saveChartButton = addButton(layout, tr("Save Chart…"));
-    return controls;
+    auto* range = new QWidget;
+    auto* layout = new QHBoxLayout(range);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(_useManualRange);
+    layout->addWidget(_minRangeTextField);
+    layout->addWidget(new QLabel(tr("to")));
+    layout->addWidget(_maxRangeTextField);
+    layout->addWidget(_rangeUnit);
+    layout->addStretch();
+    return range;
 }
 
 QWidget* TourWindowController::makeChart()
@@ -234,13 +201,20 @@ QWidget* TourWindowController::makeDescription()
 }
 
 QDockWidget* TourWindowController::makeDrawer(const QString& title, const QString& name, QWidget& content,
-                                              Qt::DockWidgetArea area)
+                                              Qt::DockWidgetArea area, QSize size)
 {
     auto* drawer = new QDockWidget(title, this);
     drawer->setObjectName(name);
     drawer->setWidget(&content);
     addDockWidget(area, drawer);
     drawer->hide();
+    connect(
+        drawer->toggleViewAction(), &QAction::toggled, this,
+        [this, drawer, size] {
+            resizeDocks({drawer}, {size.width()}, Qt::Horizontal);
+            resizeDocks({drawer}, {size.height()}, Qt::Vertical);
+        },
+        Qt::SingleShotConnection);
     connect(drawer->toggleViewAction(), &QAction::toggled, this,
             [this, drawer] { drawerDidChange(*drawer); });
     return drawer;
@@ -257,7 +231,6 @@ void TourWindowController::makeDataDrawer()
     _dataTable->setShowGrid(false);
     _dataTable->setWordWrap(false);
     _dataTable->setTabKeyNavigation(false);
-    _dataTable->setMinimumSize(dataContentSize);
     _dataTable->verticalHeader()->hide();
     _dataTable->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     _dataTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
@@ -271,8 +244,8 @@ void TourWindowController::makeDataDrawer()
     // Of several selected samples the one that was added last is marked.
     connect(_dataTable->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &TourWindowController::showIndicator);
-    _dataTableDrawer =
-        makeDrawer(tr("Data"), QStringLiteral("dataTableDrawer"), *_dataTable, Qt::BottomDockWidgetArea);
+    _dataTableDrawer = makeDrawer(tr("Data"), QStringLiteral("dataTableDrawer"), *_dataTable,
+                                  Qt::BottomDockWidgetArea, dataContentSize);
     connect(_dataButton, &QToolButton::clicked, this, [this] {
         qCDebug(lcUi, "[dataButtonPressed] %s", qPrintable(_dataTableDrawer->objectName()));
         toggleDrawer(*_dataTableDrawer);
@@ -282,8 +255,8 @@ void TourWindowController::makeDataDrawer()
 void TourWindowController::makeSummaryDrawer()
 {
     _summary = new TourSummaryView(_odoTour, _defaults);
-    _summaryDrawer =
-        makeDrawer(tr("Summary"), QStringLiteral("summaryDrawer"), *_summary, Qt::RightDockWidgetArea);
+    _summaryDrawer = makeDrawer(tr("Summary"), QStringLiteral("summaryDrawer"), *_summary,
+                                Qt::RightDockWidgetArea, summaryContentSize);
     connect(_summaryButton, &QToolButton::clicked, this, [this] {
         qCDebug(lcUi, "[summaryButtonPressed] %s", qPrintable(_summaryDrawer->objectName()));
         toggleDrawer(*_summaryDrawer);
@@ -293,7 +266,6 @@ void TourWindowController::makeSummaryDrawer()
 void TourWindowController::setupGUI()
 {
     qCDebug(lcUi, "[setupGUI]");
-    _chart->setUseTimeFormatForX(_xAxisTag == timeTag);
     useMilesDidChange();
     _defaults.observe(DefaultsKeys::useMiles, this, [this] { useMilesDidChange(); });
     for (const auto& key : {DefaultsKeys::useManualRange, DefaultsKeys::minRange, DefaultsKeys::maxRange})
@@ -315,101 +287,6 @@ QString TourWindowController::message() const
 void TourWindowController::showMessage(const QString& message)
 {
     _message->tell(message);
-}
-
-// Series and axes
-
-void TourWindowController::restoreAxes()
-{
-    const auto xAxis = _defaults.textForKey(DefaultsKeys::selectedXAxisValue(_odoTour->description()));
-    const auto tag = xAxis == SeriesNames::time ? timeTag : distanceTag;
-    _xSegmentControl->setSelected(_xSegmentControl->segmentWithTag(tag), true);
-    setXAxisTag(tag);
-
-    const auto tags = _defaults.integerListForKey(DefaultsKeys::selectedYAxisValues(_odoTour->description()))
-                          .value_or(QList<int>());
-    qCDebug(lcUi) << "array:" << tags;
-    for (const auto one : tags) {
-        if (const auto segment = _ySegmentControl->segmentWithTag(one); segment >= 0)
-            _ySegmentControl->setSelected(segment, true);
-    }
-    if (_ySegmentControl->selectedTags().empty())
-        _ySegmentControl->setSelected(0, true);
-    keepOneSeriesSelected();
-}
-
-void TourWindowController::setXAxisTag(int tag)
-{
-    qCDebug(lcUi, "setXAxisTag %d", tag);
-    _xAxisTag = tag;
-    const auto& name = tag == distanceTag ? SeriesNames::distance : SeriesNames::time;
-    if (_selectedXAxisValue == name)
-        return;
-    _selectedXAxisValue = name;
-    selectedXAxisValueDidChange();
-}
-
-void TourWindowController::selectedXAxisValueDidChange()
-{
-    qCDebug(lcUi, "%s selectedXAxisValue", Q_FUNC_INFO);
-    qCDebug(lcUi, "Change of selectedXAxisValue detected");
-    _chart->setDataProvider(std::make_shared<TourOverX>(_odoTour, _selectedXAxisValue));
-    _chart->setUseTimeFormatForX(_selectedXAxisValue == SeriesNames::time);
-    showIndicator();
-    _chart->update();
-    _defaults.setValue(DefaultsKeys::selectedXAxisValue(_odoTour->description()), _selectedXAxisValue);
-}
-
-void TourWindowController::ySegmentedControlClicked()
-{
-    qCDebug(lcUi, "ySegmentedControlClicked");
-    keepOneSeriesSelected();
-    setYFormatter();
-    const auto selected = _ySegmentControl->selectedTags();
-    const QList<int> tags(selected.begin(), selected.end());
-    qCDebug(lcUi) << "array:" << tags;
-    _defaults.setValue(DefaultsKeys::selectedYAxisValues(_odoTour->description()), tags);
-    readLabelsAndSetChartNames();
-    _chart->update();
-}
-
-/// The last series that is shown cannot be switched off.
-void TourWindowController::keepOneSeriesSelected()
-{
-    const bool isLast = _ySegmentControl->selectedTags().size() == 1;
-    for (int segment = 0; segment < _ySegmentControl->count(); ++segment)
-        _ySegmentControl->segment(segment).setEnabled(!isLast || !_ySegmentControl->isSelected(segment));
-}
-
-void TourWindowController::readLabelsAndSetChartNames()
-{
-    qCDebug(lcUi, "[readLabelsAndSetChartNames]");
-    QStringList names;
-    for (const auto tag : _ySegmentControl->selectedTags()) {
-        if (const auto* name = seriesWithTag(tag))
-            names << *name;
-        else
-            qCWarning(lcUi, "ERROR wrong tag");
-    }
-    _chart->setShowNames(names);
-}
-
-void TourWindowController::setYFormatter()
-{
-    const auto tags = _ySegmentControl->selectedTags();
-    const auto* first = tags.empty() ? nullptr : seriesWithTag(tags.front());
-    _chart->setMpFormatterForYAxis(
-        UnitFormatters::chartYAxis(_defaults, first ? *first : SeriesNames::altitude));
-}
-
-void TourWindowController::useMilesDidChange()
-{
-    _samples->reformat();
-    _summary->refresh();
-    _chart->setMpFormatterForXAxis(UnitFormatters::chartXAxis(_defaults));
-    setYFormatter();
-    showRanges();
-    _chart->update();
 }
 
 } // namespace ridelog

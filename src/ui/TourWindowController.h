@@ -9,10 +9,10 @@
 #include <optional>
 
 QT_BEGIN_NAMESPACE
+class QBoxLayout;
 class QCheckBox;
 class QLabel;
 class QLineEdit;
-class QMenu;
 class QTableView;
 class QToolBar;
 class QToolButton;
@@ -87,10 +87,12 @@ private:
     // Set-up
     QWidget* makeHead();
     QWidget* makeControls();
+    void addAxisControls(QBoxLayout& layout);
+    QWidget* makeRange();
     QWidget* makeChart();
     QWidget* makeDescription();
     QDockWidget* makeDrawer(const QString& title, const QString& name, QWidget& content,
-                            Qt::DockWidgetArea area);
+                            Qt::DockWidgetArea area, QSize size);
     void makeDataDrawer();
     void makeSummaryDrawer();
     void makeActions();
@@ -123,6 +125,7 @@ private:
     bool filterTitleKey(const QKeyEvent& event);
     void showReadout(std::optional<int> index);
     void copySamples();
+    void copySummary();
 
     // The tour
     void tourDidChange();
@@ -143,7 +146,8 @@ private:
     Defaults& _defaults;
     QString _selectedXAxisValue; ///< name of a series field: "distance" or "time"
     int _xAxisTag = 0;
-    bool _showIndicator = false; ///< the chart marks the selected sample
+    bool _showIndicator = false; ///< the data drawer is open, and the chart marks the selected sample
+    bool _isSummaryOpen = false;
 
     ChartArrayView* _chart = nullptr;
     ElidedLabel* _readout = nullptr;

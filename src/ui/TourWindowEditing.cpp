@@ -7,7 +7,7 @@
 #include "platform/Defaults.h"
 #include "ui/DescriptionEdit.h"
 #include "ui/ElidedLabel.h"
-#include "ui/TourPage.h"
+#include "ui/TourTexts.h"
 #include "ui/TourWindowController.h"
 #include "ui/UiLog.h"
 #include "ui/WindowTitle.h"
@@ -18,6 +18,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include <cmath>
+
 namespace ridelog {
 namespace {
 
@@ -26,6 +28,9 @@ StyledText shownDescription(const OdoTour& tour)
 {
     return tour.shownDescription().isEmpty() ? StyledText() : tour.tourDescription();
 }
+
+/// Metres: no mountain is as high, and no mine as deep.
+constexpr float mostOfAltitude = 20'000;
 
 /// Of a title, as far as anybody sees it in a window's frame.
 constexpr qsizetype mostOfTitle = 200;
@@ -41,11 +46,11 @@ void TourWindowController::tourDidChange()
     if (!_title->isModified())
         _title->setText(title);
     const auto description = shownDescription(*_odoTour);
-    if (_text->styledText() != description)
+    if (!_text->isBeingEdited() && _text->styledText() != description)
         _text->setStyledText(description);
     _when->setText(startAndType(*_odoTour));
     qCDebug(lcUi, "[windowTitleForDocumentDisplayName]");
-    const auto start = _odoTour->date().toString(QStringLiteral("yyyy/MM/dd - HH:mm"));
+    const auto start = _odoTour->date().toString(tr("yyyy/MM/dd - HH:mm"));
     setWindowTitle(title.isEmpty()
                        ? start
                        : titleWithName(QStringLiteral("%1 – %2").arg(start, title.left(mostOfTitle))));
@@ -111,15 +116,21 @@ void TourWindowController::commitRange(QLineEdit& field, const QString& key)
     if (!field.isModified())
         return;
     field.setModified(false);
+    showMessage({});
     auto formatter = UnitFormatters::manualRange(_defaults);
     // It reads in the units that it last wrote with.
     formatter.stringForObjectValue(0);
     QVariant metres;
-    QString why;
-    if (formatter.getObjectValue(&metres, field.text(), &why))
-        _defaults.setValue(key, metres);
+    const bool isNumber = formatter.getObjectValue(&metres, field.text(), nullptr);
+    const bool isLowest = &field == _minRangeTextField;
+    const auto lowest = isLowest ? metres.toFloat() : _defaults.floatForKey(DefaultsKeys::minRange);
+    const auto highest = isLowest ? _defaults.floatForKey(DefaultsKeys::maxRange) : metres.toFloat();
+    if (!isNumber || !(std::abs(metres.toFloat()) <= mostOfAltitude))
+        showMessage(tr("“%1” is no altitude. Write a number, like 850.").arg(field.text()));
+    else if (lowest >= highest)
+        showMessage(tr("The lowest altitude has to be below the highest."));
     else
-        showMessage(tr("“%1” is no altitude: %2").arg(field.text(), why));
+        _defaults.setValue(key, metres);
     showRanges();
 }
 

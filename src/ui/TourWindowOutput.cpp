@@ -6,33 +6,23 @@
 #include "platform/Defaults.h"
 #include "platform/WholeFile.h"
 #include "ui/SaveChartPanel.h"
-#include "ui/Sheet.h"
 #include "ui/TourPage.h"
+#include "ui/TourTexts.h"
 #include "ui/TourWindowController.h"
 #include "ui/UiLog.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QPainter>
-#include <QRegularExpression>
 
 namespace ridelog {
 namespace {
-
-/// What a file of a tour may be called: its day and its title, as far as file systems take them.
-QString fileNameOf(const OdoTour& tour)
-{
-    constexpr qsizetype longest = 60;
-    static const QRegularExpression unusual(QStringLiteral("[/\\\\:*?\"<>|\\x00-\\x1f]+"));
-    const auto title = tour.shownTitle().left(longest).replace(unusual, QStringLiteral(" "));
-    return (tour.date().toString(QStringLiteral("yyyy-MM-dd ")) + title).trimmed();
-}
 
 /// None, or why the picture is not in the file.
 std::optional<QString> savePicture(const ChartArrayView& chart, QSize size, const QString& path)
 {
     if (holdsTours(path))
-        return TourWindowController::tr("It holds tours, which a picture would replace.");
+        return TourWindowController::tr("it holds tours, which a picture would replace");
     const auto picture = chartPicture(chart.chart(size), chart.indicator(), path);
     return picture.error.isEmpty() ? writeWholeFile(path, picture.bytes) : picture.error;
 }
@@ -65,20 +55,21 @@ void TourWindowController::saveChartPanelDidEnd(const SaveChartPanel& panel)
         _defaults.synchronize();
     }
     const auto path = panel.selectedFiles().constFirst();
-    const auto error = savePicture(*_chart, size, path);
-    if (!error) {
+    if (const auto error = savePicture(*_chart, size, path))
+        showMessage(tr("%1 was not saved: %2.").arg(QFileInfo(path).fileName(), *error));
+    else
         showMessage(tr("The chart was saved as %1.").arg(QDir::toNativeSeparators(path)));
-        return;
-    }
-    showError(*this, tr("%1 was not saved.").arg(QFileInfo(path).fileName()), *error);
 }
 
 void TourWindowController::print()
 {
     finishEditing();
-    askToPrint(*this, fileNameOf(*_odoTour), [this](QPainter& painter, QRectF page) {
-        drawTourPage(painter, page, *_odoTour, *_chart, _defaults);
-    });
+    askToPrint(
+        *this, fileNameOf(*_odoTour),
+        [this](QPainter& painter, QRectF page) {
+            drawTourPage(painter, page, *_odoTour, *_chart, _defaults);
+        },
+        [this](const QString& error) { showMessage(error); });
 }
 
 } // namespace ridelog

@@ -4,6 +4,7 @@
 #include "ui/Counted.h"
 #include "ui/ElidedLabel.h"
 #include "ui/SampleTableModel.h"
+#include "ui/TourSummary.h"
 #include "ui/TourWindowController.h"
 #include "ui/UiLog.h"
 
@@ -18,6 +19,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace ridelog {
 namespace {
@@ -37,12 +39,14 @@ void TourWindowController::drawerDidChange(QDockWidget& drawer)
 {
     // A window that is minimised or closed hides the drawer with it, which nobody has closed.
     const bool isOpen = !drawer.isHidden();
+    auto& wasOpen = &drawer == _summaryDrawer ? _isSummaryOpen : _showIndicator;
+    if (std::exchange(wasOpen, isOpen) == isOpen)
+        return;
     qCDebug(lcUi, "[%s] %s", isOpen ? "drawerDidOpen" : "drawerDidClose", qPrintable(drawer.objectName()));
     if (&drawer == _summaryDrawer) {
         _summaryButton->setChecked(isOpen);
         return;
     }
-    _showIndicator = isOpen;
     _dataButton->setChecked(isOpen);
     _chart->setMouseDelegate(isOpen ? this : nullptr);
     showIndicator();
@@ -151,6 +155,7 @@ bool TourWindowController::eventFilter(QObject* watched, QEvent* event)
         return false;
     indexClicked(*index);
     showReadout(index);
+    _chart->setAccessibleDescription(readout());
     return true;
 }
 
@@ -200,6 +205,20 @@ void TourWindowController::copySamples()
         addLine([&row](int column) { return row.siblingAtColumn(column).data().toString(); });
     QGuiApplication::clipboard()->setText(lines.join(u'\n') + u'\n');
     showMessage(counted(rows.size(), tr("1 sample copied."), tr("%1 samples copied.")));
+}
+
+/// All summary values as lines of name and value with a tab between, a blank line between groups.
+void TourWindowController::copySummary()
+{
+    QStringList groups;
+    for (const auto& group : tourSummary(*_odoTour, _defaults)) {
+        auto lines = group.name + u'\n';
+        for (const auto& value : group.values)
+            lines += value.name + u'\t' + value.text + u'\n';
+        groups << lines;
+    }
+    QGuiApplication::clipboard()->setText(groups.join(u'\n'));
+    showMessage(tr("The summary is copied."));
 }
 
 } // namespace ridelog

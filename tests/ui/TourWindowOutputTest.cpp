@@ -18,7 +18,7 @@ protected:
     {
         whenAsked<QFileDialog>([act](QFileDialog& panel) { act(dynamic_cast<SaveChartPanel&>(panel)); });
         inFront(shown);
-        QTest::keyClick(&shown, Qt::Key_E, Qt::ControlModifier);
+        QTest::keyClick(&shown, Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
         EXPECT_TRUE(eventually([&] { return answers.children().isEmpty(); }));
     }
     static void accept(SaveChartPanel& panel, const QString& path)
@@ -82,27 +82,44 @@ TEST_F(TourWindowOutput, APictureThatCannotBeSavedSaysWhyAndCostsNothing)
 {
     start({dump()});
     auto& shown = openSelected();
+    const auto ride = write("ride.png", read("ride.odo"));
     ASSERT_TRUE(QDir().mkdir(path("folder.png")));
-    const auto ride = read("ride.odo");
-    for (const auto& [name, reason] :
-         {std::pair("chart.bmp", "pictures end with .jpg"),
-          std::pair("ride.odo", "It holds tours, which a picture would replace.")}) {
-        answer("OK");
+    const auto save = [&](const char* name) {
         saveChart(shown, [&](SaveChartPanel& panel) {
             panel.setOption(QFileDialog::DontConfirmOverwrite);
-            accept(panel, path(name));
+            panel.selectFile(path(name));
+            static_cast<QDialog&>(panel).done(QDialog::Accepted);
         });
-        ASSERT_TRUE(eventually([&] { return answers.children().isEmpty(); }));
-        EXPECT_TRUE(question.startsWith(QStringLiteral("%1 was not saved.").arg(QString::fromUtf8(name))));
-        EXPECT_TRUE(question.contains(QString::fromUtf8(reason))) << qPrintable(question);
-    }
-    EXPECT_EQ(read("ride.odo"), ride);
-    EXPECT_FALSE(QFileInfo::exists(path("chart.bmp")));
+        return shown.message();
+    };
+    EXPECT_EQ(save("ride.png"),
+              QStringLiteral("ride.png was not saved: it holds tours, which a picture would "
+                             "replace."));
+    EXPECT_EQ(read("ride.png"), read("ride.odo"));
+    EXPECT_TRUE(save("folder.png").startsWith(QStringLiteral("folder.png was not saved: ")));
+    EXPECT_TRUE(save("none/a.png").startsWith(QStringLiteral("a.png was not saved: ")));
 
     write("broken.ridelog", stored(document()).left(500));
     EXPECT_TRUE(holdsTours(path("broken.ridelog")));
     EXPECT_FALSE(holdsTours(path("folder.png")));
     EXPECT_FALSE(holdsTours(write("a.png", "no tours")));
+}
+
+TEST_F(TourWindowOutput, PicturesGetTheEndingOfTheirType)
+{
+    const auto tour = rides(3, 1).front();
+    tour->setTitle(QStringLiteral("Mt. Ventoux / St. Gallen"));
+    auto& shown = open(tour);
+    const auto day = tour->date().toString(QStringLiteral("yyyy-MM-dd "));
+    saveChart(shown, [&](SaveChartPanel& panel) {
+        panel.setDirectory(path());
+        panel.selectNameFilter(QStringLiteral("PNG (*.png)"));
+        Q_EMIT panel.filterSelected(QStringLiteral("PNG (*.png)"));
+        panel.findChild<QDialogButtonBox*>()->buttons().constFirst()->click();
+    });
+    EXPECT_TRUE(QFileInfo::exists(path() + u'/' + day + QStringLiteral("Mt. Ventoux   St. Gallen.png")));
+    saveChart(shown, [&](SaveChartPanel& panel) { accept(panel, path("at 1.5 bar")); });
+    EXPECT_TRUE(read("at 1.5 bar.jpeg").startsWith("\xff\xd8"));
 }
 
 TEST_F(TourWindowOutput, ATourIsPrintedOnOnePage)
@@ -111,28 +128,28 @@ TEST_F(TourWindowOutput, ATourIsPrintedOnOnePage)
     tour->setTitle(QStringLiteral("Over the pass"));
     tour->setTourDescription(QStringLiteral("A long story. ").repeated(400));
     auto& shown = open(tour);
-    const auto print = [&](const QString& to) {
+    const auto print = [&](QMainWindow& from, const QString& to) {
         whenAsked<QPrintDialog>([to](QPrintDialog& panel) {
             panel.printer()->setOutputFileName(to);
             panel.done(QDialog::Accepted);
         });
-        inFront(shown);
-        QTest::keyClick(&shown, Qt::Key_P, Qt::ControlModifier);
+        inFront(from);
+        QTest::keyClick(&from, Qt::Key_P, Qt::ControlModifier);
         EXPECT_TRUE(eventually([&] { return answers.children().isEmpty(); }));
     };
-    print(path("tour.pdf"));
-    ASSERT_TRUE(eventually([&] { return read("tour.pdf").endsWith("%%EOF\n"); }));
-    EXPECT_EQ(read("tour.pdf").count("/Type /Page\n"), 1);
+    for (auto* from : {static_cast<QMainWindow*>(&shown), static_cast<QMainWindow*>(&window())}) {
+        QFile::remove(path("tour.pdf"));
+        print(*from, path("tour.pdf"));
+        ASSERT_TRUE(eventually([&] { return read("tour.pdf").endsWith("%%EOF\n"); }));
+        EXPECT_EQ(read("tour.pdf").count("/Type /Page\n"), 1);
+    }
 
-    answer("OK");
-    print(dump());
-    EXPECT_TRUE(eventually([&] { return answers.children().isEmpty(); }));
-    EXPECT_TRUE(question.contains(QStringLiteral("The file holds tours")));
+    print(shown, dump());
+    EXPECT_TRUE(shown.message().contains(QStringLiteral("the file holds tours")))
+        << qPrintable(shown.message());
     EXPECT_TRUE(holdsTours(path("ride.odo")));
-    answer("OK");
-    print(path("nowhere/tour.pdf"));
-    EXPECT_TRUE(eventually([&] { return answers.children().isEmpty(); }));
-    EXPECT_TRUE(question.startsWith(QStringLiteral("The tour was not printed.")));
+    print(window(), path("nowhere/tour.pdf"));
+    EXPECT_TRUE(window().message().startsWith(QStringLiteral("The tour was not printed: ")));
 }
 
 TEST_F(TourWindowOutput, ThePageHoldsTitleChartValuesAndDescription)

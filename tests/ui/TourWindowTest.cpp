@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScrollArea>
 
 namespace ridelog {
 namespace {
@@ -43,9 +44,11 @@ TEST_F(TourWindow, ShowsAltitudeOverDistanceAtFirstAndNeverNothing)
     EXPECT_EQ(shown.chart().showNames(), QStringList{QStringLiteral("speed")});
     EXPECT_EQ(yLabel(shown.chart(), 12.34), QStringLiteral("12.3"));
     EXPECT_FALSE(series.segment(1).isEnabled());
-    clickSegment(series, 2);
-    clickSegment(series, 0);
+    QTest::keyClick(&shown, Qt::Key_5, Qt::ControlModifier);
+    QTest::keyClick(&shown, Qt::Key_3, Qt::ControlModifier);
     EXPECT_EQ(series.selectedTags(), (std::vector<int>{0, 1, 2}));
+    QTest::keyClick(&shown, Qt::Key_2, Qt::ControlModifier);
+    EXPECT_TRUE(shown.chart().useTimeFormatForX());
 }
 
 TEST_F(TourWindow, RemembersAxesAndPlaceOfEachTour)
@@ -258,8 +261,15 @@ TEST_F(TourWindow, TheManualRangeIsThatOfAllCharts)
     EXPECT_EQ(defaults->floatForKey(DefaultsKeys::maxRange), 1000);
     type(shown.maxRangeTextField(), "high");
     EXPECT_EQ(defaults->floatForKey(DefaultsKeys::maxRange), 1000);
-    EXPECT_TRUE(shown.message().startsWith(QStringLiteral("“high” is no altitude: ")));
+    EXPECT_EQ(shown.message(), QStringLiteral("“high” is no altitude. Write a number, like 850."));
     EXPECT_EQ(shown.maxRangeTextField().text(), QStringLiteral("1000"));
+    type(shown.minRangeTextField(), "1000");
+    EXPECT_EQ(shown.message(), QStringLiteral("The lowest altitude has to be below the highest."));
+    type(shown.minRangeTextField(), "-1e30");
+    EXPECT_EQ(defaults->floatForKey(DefaultsKeys::minRange), 0);
+    type(shown.minRangeTextField(), "-20");
+    EXPECT_EQ(defaults->floatForKey(DefaultsKeys::minRange), -20);
+    EXPECT_TRUE(shown.message().isEmpty());
 
     defaults->setValue(DefaultsKeys::useMiles, true);
     EXPECT_EQ(shown.maxRangeTextField().text(), QStringLiteral("3280.8"));
@@ -286,6 +296,9 @@ TEST_F(TourWindow, RowsAreCopiedAsText)
                              "0:00:20\t0.2km\t510\t36km/h\t90\t775\t5.0\t0\t0\n"
                              "0:00:40\t0.4km\t520\t36km/h\t90\t775\t5.0\t0\t0\n"));
     EXPECT_EQ(shown.message(), QStringLiteral("2 samples copied."));
+    trigger(shown, "Copy Summary");
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(
+        QStringLiteral("Tour\nDistance\t0.4km\nDuration\t0:01:00\n\nSpeed\n")));
 }
 
 TEST_F(TourWindow, LivesAsLongAsItsTourIsInTheDocument)
@@ -321,6 +334,45 @@ TEST_F(TourWindow, LivesAsLongAsItsTourIsInTheDocument)
     QPointer<TourWindowController> last = window().tourWindows().at(0);
     window().close();
     EXPECT_TRUE(eventually([&] { return !last && windows->mainWindows().empty(); }));
+}
+
+TEST_F(TourWindow, EachValueOfTheSummaryHasItsRoom)
+{
+    auto& shown = open(rides(3, 1).front());
+    defaults->setValue(DefaultsKeys::useMiles, true);
+    QTest::keyClick(&shown, Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier);
+    const auto& view = *qobject_cast<QScrollArea*>(shown.summaryDrawer().widget());
+    const auto fits = [&view] {
+        return view.isVisible() && view.widget()->width() <= view.viewport()->width() &&
+               view.widget()->width() >= view.widget()->minimumSizeHint().width();
+    };
+    EXPECT_TRUE(eventually(fits, std::chrono::seconds(2)));
+}
+
+TEST_F(TourWindow, MayGoWhileItAsks)
+{
+    start({dump()});
+    for (const auto* action : {"Print…", "Save Chart…", "Link…"}) {
+        auto& shown = openSelected();
+        click(shown.dataButton());
+        click(shown.summaryButton());
+        trigger(shown, action);
+        EXPECT_TRUE(eventually([] { return QApplication::activeModalWidget() != nullptr; })) << action;
+        document().undoManager().undo();
+        EXPECT_TRUE(eventually([&] { return window().tourWindows().empty(); })) << action;
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << action;
+        document().undoManager().redo();
+        window().tourController().selectRow(0);
+    }
+    auto& shown = openSelected();
+    whenAsked<QFileDialog>([&shown, file = path("tours.ridelog")](QFileDialog& panel) {
+        shown.close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        panel.selectFile(file);
+        static_cast<QDialog&>(panel).done(QDialog::Accepted);
+    });
+    trigger(shown, "Save");
+    EXPECT_FALSE(document().isChanged());
 }
 
 TEST_F(TourWindow, FilesDroppedOnItGoToItsDocument)
