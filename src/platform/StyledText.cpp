@@ -291,7 +291,22 @@ void StyledText::setAttribute(qsizetype from, qsizetype length, const QString& n
     const auto last = splitAt(from + length);
     for (auto index = first; index < last; ++index)
         _runs[index].attributes = withEntry(_runs[index].attributes, name, value);
-    setRuns(std::move(_runs));
+    joinRuns(first, last);
+}
+
+/// Joins what has become equal between these runs and at their ends: comparing all of a long text for each
+/// word of it would take its time.
+void StyledText::joinRuns(std::size_t first, std::size_t last)
+{
+    const auto at = [this](std::size_t index) { return _runs.begin() + static_cast<std::ptrdiff_t>(index); };
+    for (auto index = std::min(last, _runs.size() - 1); index > 0 && index >= first; --index) {
+        if (!(_runs[index].attributes == _runs[index - 1].attributes))
+            continue;
+        _runs[index - 1].length += _runs[index].length;
+        _runs.erase(at(index));
+    }
+    _runs = unlessPlain(std::move(_runs));
+    _stored = ArchiveObject();
 }
 
 void StyledText::setUnderline(qsizetype from, qsizetype length, bool underline)

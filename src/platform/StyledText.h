@@ -67,6 +67,7 @@ private:
     using WriteValue = std::function<void(TypedStreamWriter&)>;
     void setAttribute(qsizetype from, qsizetype length, const QString& name, const WriteValue& value);
     std::size_t splitAt(qsizetype position);
+    void joinRuns(std::size_t first, std::size_t last);
     std::vector<Run> storedRuns() const;
     void setRuns(std::vector<Run> runs);
 

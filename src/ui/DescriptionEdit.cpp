@@ -19,6 +19,12 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto pause = 1s;
+/// A page that reads nothing from elsewhere: its style sheets could be any file of this machine.
+class PastedPage : public QTextDocument {
+protected:
+    QVariant loadResource(int, const QUrl&) override { return QByteArray(""); }
+};
+
 const QString bullet = QStringLiteral("\u2022 ");
 
 } // namespace
@@ -124,20 +130,22 @@ bool DescriptionEdit::openLink(const QString& address)
     const auto url = QUrl::fromUserInput(address);
     static const QStringList schemes{QStringLiteral("http"), QStringLiteral("https"),
                                      QStringLiteral("mailto")};
-    return schemes.contains(url.scheme()) && QDesktopServices::openUrl(url);
+    const bool leadsSomewhere = schemes.contains(url.scheme()) && !(url.host() + url.path()).isEmpty();
+    return leadsSomewhere && QDesktopServices::openUrl(url);
 }
 
 bool DescriptionEdit::canInsertFromMimeData(const QMimeData* source) const
 {
     // Files are for the window.
-    return !source->hasUrls() && (source->hasHtml() || source->hasText());
+    const bool areFiles = std::ranges::any_of(source->urls(), &QUrl::isLocalFile);
+    return !areFiles && (source->hasHtml() || source->hasText());
 }
 
 void DescriptionEdit::insertFromMimeData(const QMimeData* source)
 {
     auto cursor = textCursor();
     if (source->hasHtml()) {
-        QTextDocument pasted;
+        PastedPage pasted;
         pasted.setHtml(source->html());
         insertStyledText(pastedText(pasted), cursor);
     } else {
@@ -245,6 +253,8 @@ void DescriptionEdit::toggleList()
     bool areAll = true;
     for (auto line = first; line != end; line = line.next())
         areAll = areAll && line.text().startsWith(bullet);
+    // Laid out once, not after every line.
+    cursor.beginEditBlock();
     for (auto line = first; line != end; line = line.next()) {
         cursor.setPosition(line.position());
         if (areAll) {
@@ -254,6 +264,7 @@ void DescriptionEdit::toggleList()
             cursor.insertText(bullet);
         }
     }
+    cursor.endEditBlock();
     finishEditing();
 }
 

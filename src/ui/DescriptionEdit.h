@@ -19,7 +19,8 @@ public:
     void setStyledText(const StyledText& text);
     /// What it shows now.
     StyledText styledText() const;
-    /// Whether it shows what it has not told of yet.
+    /// What it showed when it was last told of, without what is still being typed.
+    const StyledText& shownText() const { return _shown; }
     bool isBeingEdited() const { return styledText() != _shown; }
     /// Tells of what was typed since the last pause at once.
     void finishEditing();

@@ -15,13 +15,25 @@ namespace {
 const QString usualFont = QStringLiteral("Helvetica");
 constexpr float usualSize = 12;
 
+constexpr QChar beginOfCell(0xfdd0);
+constexpr QChar endOfTable(0xfdd1);
+
+/// Editors end lines there, also at what stands for the parts of a table in them.
+bool endsLine(QChar character)
+{
+    return character == u'\r' || character == QChar::LineSeparator ||
+           character == QChar::ParagraphSeparator || character == beginOfCell || character == endOfTable;
+}
+
 /// Editors end every line in one way.
 QString withPlainLineEnds(QString text)
 {
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    text.replace(u'\r', u'\n');
-    text.replace(QChar::LineSeparator, u'\n');
-    return text.replace(QChar::ParagraphSeparator, u'\n');
+    for (auto& character : text) {
+        if (endsLine(character))
+            character = u'\n';
+    }
+    return text;
 }
 
 /// The same for a text, without touching its styles.
@@ -32,8 +44,7 @@ void endLinesPlainly(StyledText& text)
         const bool isPair = character == u'\n' && at > 0 && text.text()[at - 1] == u'\r';
         if (isPair)
             text.replace(--at, 2, u"\n");
-        else if (character == u'\r' || character == QChar::LineSeparator ||
-                 character == QChar::ParagraphSeparator)
+        else if (endsLine(character))
             text.replace(at, 1, u"\n");
     }
 }
@@ -111,14 +122,10 @@ void takeStyles(StyledText& text, const QTextDocument& document)
 /// Takes out what stands for pictures. The cells of tables become lines.
 void takeOutObjects(StyledText& text)
 {
-    constexpr QChar beginOfCell(0xfdd0);
-    constexpr QChar endOfTable(0xfdd1);
     for (auto at = text.text().size() - 1; at >= 0; --at) {
         const auto character = text.text()[at];
         if (character == QChar::ObjectReplacementCharacter)
             text.replace(at, 1, u"");
-        else if (character == beginOfCell || character == endOfTable)
-            text.replace(at, 1, u"\n");
     }
 }
 
@@ -142,12 +149,17 @@ void showStyledText(const StyledText& text, QTextDocument& document)
 
 void insertStyledText(const StyledText& text, QTextCursor& cursor)
 {
+    // Laid out once, not after every run.
+    cursor.beginEditBlock();
+    // In the whole text: a line may end with two characters of different runs.
+    auto plain = text;
+    endLinesPlainly(plain);
     qsizetype from = 0;
-    for (const auto& run : text.runs()) {
-        cursor.insertText(withPlainLineEnds(text.text().mid(from, run.length)),
-                          formatOf(StyledText::styleOf(run.attributes)));
+    for (const auto& run : plain.runs()) {
+        cursor.insertText(plain.text().mid(from, run.length), formatOf(StyledText::styleOf(run.attributes)));
         from += run.length;
     }
+    cursor.endEditBlock();
 }
 
 StyledText editedText(const StyledText& shown, const QTextDocument& document)

@@ -4,14 +4,19 @@
 #include "chart/ChartDrawing.h"
 #include "library/FileOfTours.h"
 #include "model/OdoTour.h"
+#include "platform/WholeFile.h"
+#include "ui/ElidedLabel.h"
 #include "ui/StyledTextConversion.h"
 #include "ui/TourSummary.h"
 #include "ui/TourTexts.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QBuffer>
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QFont>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QTextBlock>
@@ -52,7 +57,7 @@ double drawLine(QPainter& painter, QRectF page, double top, const QFont& font, c
     const QFontMetricsF metrics(font);
     painter.setFont(font);
     painter.drawText(QPointF(page.left(), top + metrics.ascent()),
-                     metrics.elidedText(text, Qt::ElideRight, page.width()));
+                     metrics.elidedText(text.left(ElidedLabel::longest), Qt::ElideRight, page.width()));
     return top + metrics.height();
 }
 
@@ -169,24 +174,44 @@ void drawDescription(QPainter& painter, QRectF page, double top, const OdoTour& 
     painter.restore();
 }
 
-/// None, or why there is no page.
-std::optional<QString> print(QPrinter& printer, const PageDrawing& draw)
+void drawOn(QPaintDevice& device, const QPageLayout& layout, int resolution, const PageDrawing& draw)
+{
+    QPainter painter(&device);
+    painter.scale(resolution / pointsPerInch, resolution / pointsPerInch);
+    draw(painter, QRectF(QPointF(), layout.paintRect(QPageLayout::Point).size()));
+}
+
+/// None, or why there is no file.
+std::optional<QString> printToFile(const QPrinter& printer, const PageDrawing& draw)
 {
     if (holdsTours(printer.outputFileName()))
-        return QCoreApplication::translate("TourPage",
-                                           "The tour was not printed: the file holds tours, which "
-                                           "a page would replace.");
-    QPainter painter;
-    if (painter.begin(&printer)) {
-        const auto scale = printer.resolution() / pointsPerInch;
-        painter.scale(scale, scale);
-        draw(painter, QRectF(QPointF(), printer.pageRect(QPrinter::Point).size()));
+        return QCoreApplication::translate("TourPage", "it holds tours, which a page would replace");
+    QBuffer out;
+    out.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter pdf(&out);
+        pdf.setTitle(printer.docName());
+        pdf.setPageLayout(printer.pageLayout());
+        pdf.setResolution(printer.resolution());
+        drawOn(pdf, pdf.pageLayout(), pdf.resolution(), draw);
     }
-    if (painter.isActive() && painter.end() && printer.printerState() != QPrinter::Error)
-        return std::nullopt;
-    return QCoreApplication::translate(
-        "TourPage", "The tour was not printed: the printer, or the file to print to, cannot "
-                    "be written.");
+    return writeWholeFile(printer.outputFileName(), out.data());
+}
+
+/// Empty, or a sentence about what went wrong.
+QString print(QPrinter& printer, const PageDrawing& draw)
+{
+    if (!printer.outputFileName().isEmpty()) {
+        const auto error = printToFile(printer, draw);
+        return error ? QCoreApplication::translate("TourPage", "%1 was not printed: %2.")
+                           .arg(QFileInfo(printer.outputFileName()).fileName(), *error)
+                     : QString();
+    }
+    drawOn(printer, printer.pageLayout(), printer.resolution(), draw);
+    return printer.printerState() == QPrinter::Error
+               ? QCoreApplication::translate("TourPage", "The printer %1 does not take the page.")
+                     .arg(printer.printerName())
+               : QString();
 }
 
 } // namespace
@@ -216,8 +241,8 @@ void askToPrint(QWidget& over, const QString& name, PageDrawing draw,
     panel->setOption(QAbstractPrintDialog::PrintPageRange, false);
     QObject::connect(panel, qOverload<>(&QDialog::accepted), &over,
                      [printer, draw = std::move(draw), tell = std::move(tell)] {
-                         if (const auto error = print(*printer, draw))
-                             tell(*error);
+                         if (const auto error = print(*printer, draw); !error.isEmpty())
+                             tell(error);
                      });
     // The panel has to go before its printer.
     QObject::connect(panel, &QObject::destroyed, &over, [printer] {});

@@ -40,7 +40,9 @@ QString fileNameOf(const OdoTour& tour)
 {
     constexpr qsizetype longest = 60;
     static const QRegularExpression unusual(QStringLiteral("[/\\\\:*?\"<>|\\x00-\\x1f]+"));
-    const auto title = tour.shownTitle().left(longest).replace(unusual, QStringLiteral(" "));
+    auto title = tour.shownTitle().left(longest).replace(unusual, QStringLiteral(" "));
+    if (!title.isEmpty() && title.back().isHighSurrogate())
+        title.chop(1);
     return (tour.date().toString(QStringLiteral("yyyy-MM-dd ")) + title).trimmed();
 }
 

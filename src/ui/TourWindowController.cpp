@@ -93,9 +93,10 @@ TourWindowController::~TourWindowController()
     qCDebug(lcUi, "--- TourWindowController dealloc ---");
     finishEditing();
     storeFrame(*this, _defaults, DefaultsKeys::tourWindowFrame(_odoTour->description()));
-    // They would tell of their end when there is nobody left to be told.
+    // They speak to this window for as long as they live.
     delete _dataTableDrawer;
     delete _summaryDrawer;
+    delete centralWidget();
 }
 
 // Set-up

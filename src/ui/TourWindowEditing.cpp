@@ -46,7 +46,7 @@ void TourWindowController::tourDidChange()
     if (!_title->isModified())
         _title->setText(title);
     const auto description = shownDescription(*_odoTour);
-    if (!_text->isBeingEdited() && _text->styledText() != description)
+    if (description != _text->shownText() && !_text->isBeingEdited())
         _text->setStyledText(description);
     _when->setText(startAndType(*_odoTour));
     qCDebug(lcUi, "[windowTitleForDocumentDisplayName]");
@@ -142,7 +142,9 @@ void TourWindowController::showRanges()
     auto formatter = UnitFormatters::manualRange(_defaults);
     const auto show = [&](QLineEdit& field, const QString& key) {
         field.setEnabled(isUsed);
-        field.setText(formatter.stringForObjectValue(_defaults.floatForKey(key)));
+        // What is being typed is not taken away.
+        if (!field.isModified())
+            field.setText(formatter.stringForObjectValue(_defaults.floatForKey(key)));
     };
     show(*_minRangeTextField, DefaultsKeys::minRange);
     show(*_maxRangeTextField, DefaultsKeys::maxRange);

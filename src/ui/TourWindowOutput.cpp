@@ -32,12 +32,11 @@ std::optional<QString> savePicture(const ChartArrayView& chart, QSize size, cons
 void TourWindowController::saveChart()
 {
     qCDebug(lcUi, "[saveChart]");
-    const bool isStored =
-        _defaults.contains(DefaultsKeys::pictureWidth) && _defaults.contains(DefaultsKeys::pictureHeight);
-    const QSizeF stored(static_cast<double>(_defaults.floatForKey(DefaultsKeys::pictureWidth)),
-                        static_cast<double>(_defaults.floatForKey(DefaultsKeys::pictureHeight)));
-    const QSizeF largest(largestChartPicture, largestChartPicture);
-    const auto size = isStored ? stored.boundedTo(largest).toSize() : _chart->size();
+    const auto width = _defaults.floatForKey(DefaultsKeys::pictureWidth);
+    const auto height = _defaults.floatForKey(DefaultsKeys::pictureHeight);
+    const auto isSide = [](float side) { return side >= 1 && side <= largestChartPicture; };
+    const bool isStored = isSide(width) && isSide(height);
+    const auto size = isStored ? QSize(qRound(width), qRound(height)) : _chart->size();
     auto* panel = new SaveChartPanel(this, fileNameOf(*_odoTour), size);
     panel->setAttribute(Qt::WA_DeleteOnClose);
     connect(panel, &QDialog::accepted, this, [this, panel] { saveChartPanelDidEnd(*panel); });

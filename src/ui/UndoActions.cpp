@@ -4,6 +4,8 @@
 
 #include <QMenu>
 
+#include <functional>
+
 namespace ridelog {
 
 UndoActions::UndoActions(QMenu& menu, UndoManager& undo) : QObject(&menu), _undo(undo)
@@ -13,7 +15,7 @@ UndoActions::UndoActions(QMenu& menu, UndoManager& undo) : QObject(&menu), _undo
         action->setShortcut(keys);
         connect(action, &QAction::triggered, this, [this, step] {
             Q_EMIT chosen();
-            (_undo.*step)();
+            std::invoke(step, _undo);
         });
         return action;
     };

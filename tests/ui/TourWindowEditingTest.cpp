@@ -3,6 +3,7 @@
 #include "ui/DescriptionEdit.h"
 
 #include <QClipboard>
+#include <QElapsedTimer>
 #include <QInputDialog>
 #include <QMimeData>
 
@@ -92,6 +93,19 @@ TEST_F(TourWindowEditing, WhatIsStillBeingTypedCountsWhenTheWindowGoes)
     window().close();
     EXPECT_TRUE(eventually([&] { return windows->mainWindows().empty(); }));
     EXPECT_EQ(saved(path("tours.ridelog")), StyledText(QStringLiteral("windy and cold")));
+}
+
+TEST_F(TourWindowEditing, NothingTypedIsLostWhenSomethingElseChanges)
+{
+    auto& shown = openTour();
+    type(shown, "windy");
+    shown.odoTour()->setTitle(QStringLiteral("from elsewhere"));
+    EXPECT_EQ(shown.text().toPlainText(), QStringLiteral("windy"));
+    QTest::keyClicks(&shown.title(), QStringLiteral("!"));
+    shown.finishEditing();
+    EXPECT_EQ(shown.odoTour()->title(), QStringLiteral("from elsewhere!"));
+    EXPECT_EQ(description(), QStringLiteral("windy"));
+    EXPECT_EQ(shown.text().toPlainText(), QStringLiteral("windy"));
 }
 
 TEST_F(TourWindowEditing, WordsTypedWithoutAPauseAreOneStep)
@@ -216,10 +230,45 @@ TEST_F(TourWindowEditing, OfWhatIsPastedOnlyTextAndItsStylesStay)
     EXPECT_EQ(pasted.styleAt(pasted.text().indexOf(u"there")).link, QStringLiteral("https://example.org"));
 }
 
+TEST_F(TourWindowEditing, APastedPageReadsNothingFromElsewhere)
+{
+    auto& shown = openTour();
+    const auto sheet = write("style.css", "p { font-weight: bold }");
+    auto* page = new QMimeData;
+    page->setHtml(QStringLiteral("<html><head><link rel='stylesheet' type='text/css' "
+                                 "href='file://%1'></head><body><p>plain</p></body></html>")
+                      .arg(sheet));
+    QGuiApplication::clipboard()->setMimeData(page);
+    shown.text().paste();
+    shown.finishEditing();
+    EXPECT_EQ(description(), QStringLiteral("plain"));
+    EXPECT_FALSE(shown.odoTour()->tourDescription().styleAt(0).bold);
+}
+
+TEST_F(TourWindowEditing, ManyStylesTakeLittleTime)
+{
+    StyledText written;
+    for (int run = 0; run < 3000; ++run) {
+        written.replace(written.text().size(), 0, u"word ");
+        written.setUnderline(written.text().size() - 5, 5, run % 2 == 0);
+    }
+    const auto tour = tourThrough({500, 510});
+    tour->setTourDescription(written);
+    QElapsedTimer timer;
+    timer.start();
+    auto& shown = open(tour);
+    shown.text().selectAll();
+    QTest::keyClick(&shown.text(), Qt::Key_B, Qt::ControlModifier);
+    EXPECT_TRUE(tour->tourDescription().styleAt(14'999).bold);
+    EXPECT_FALSE(tour->tourDescription().styleAt(14'999).underline);
+    EXPECT_TRUE(tour->tourDescription().styleAt(14'994).underline);
+    EXPECT_LT(timer.elapsed(), 10'000) << "a minute, if each style were laid out by itself";
+}
+
 TEST_F(TourWindowEditing, WhatAnEditorDoesNotShowOfATextStays)
 {
-    StyledText written(QStringLiteral("first\r\nsecond third"));
-    written.setFont(0, 5, QStringLiteral("Courier"), 18);
+    StyledText written(QStringLiteral("first\r\nsecond\ufdd1third"));
+    written.setFont(0, 6, QStringLiteral("Courier"), 18);
     written.setUnderline(7, 6, true);
     const auto tour = tourThrough({500, 510});
     tour->setTourDescription(written);
@@ -230,7 +279,7 @@ TEST_F(TourWindowEditing, WhatAnEditorDoesNotShowOfATextStays)
     type(shown, "!");
     shown.finishEditing();
     const auto edited = tour->tourDescription();
-    EXPECT_EQ(edited.text(), QStringLiteral("first\nsecond third!"));
+    EXPECT_EQ(edited.text(), QStringLiteral("first\nsecond\nthird!"));
     EXPECT_EQ(edited.styleAt(0), written.styleAt(0));
     EXPECT_TRUE(edited.styleAt(6).underline);
     shown.text().selectAll();
