@@ -79,6 +79,16 @@ void takeCharacters(StyledText& text, const QString& edited)
                  QStringView(edited).mid(begin, edited.size() - begin - end));
 }
 
+/// Name of the face of a font's family, as stored texts spell them: "Helvetica-BoldOblique".
+QString faceNamed(const QString& fontName, bool bold, bool italic)
+{
+    const auto family = fontName.section(u'-', 0, 0);
+    const bool isOblique = family == u"Helvetica" || family == u"Courier" || fontName.contains(u"Oblique");
+    const auto slant = isOblique ? QStringLiteral("Oblique") : QStringLiteral("Italic");
+    const auto face = (bold ? QStringLiteral("Bold") : QString()) + (italic ? slant : QString());
+    return face.isEmpty() ? family : family + u'-' + face;
+}
+
 void takeStyle(StyledText& text, qsizetype from, qsizetype length, const StyledText::Style& style,
                const QTextCharFormat& format)
 {
@@ -130,15 +140,6 @@ void takeOutObjects(StyledText& text)
 }
 
 } // namespace
-
-QString faceNamed(const QString& fontName, bool bold, bool italic)
-{
-    const auto family = fontName.section(u'-', 0, 0);
-    const bool isOblique = family == u"Helvetica" || family == u"Courier" || fontName.contains(u"Oblique");
-    const auto slant = isOblique ? QStringLiteral("Oblique") : QStringLiteral("Italic");
-    const auto face = (bold ? QStringLiteral("Bold") : QString()) + (italic ? slant : QString());
-    return face.isEmpty() ? family : family + u'-' + face;
-}
 
 void showStyledText(const StyledText& text, QTextDocument& document)
 {

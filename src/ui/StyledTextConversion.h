@@ -24,7 +24,4 @@ StyledText editedText(const StyledText& shown, const QTextDocument& document);
 /// What of a document from elsewhere a styled text has room for: not its pictures, nor how it looks.
 StyledText pastedText(const QTextDocument& document);
 
-/// Name of the face of a font's family, as macOS spells them: "Helvetica-BoldOblique".
-QString faceNamed(const QString& fontName, bool bold, bool italic);
-
 } // namespace ridelog

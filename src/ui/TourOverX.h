@@ -15,8 +15,6 @@ public:
     {
     }
 
-    const std::shared_ptr<const OdoTour>& tour() const { return _tour; }
-
     float xValueAt(unsigned index) const override { return _tour->valueAt(index, _nameForXValue); }
     float yValueAt(unsigned index, QStringView forName) const override
     {

@@ -174,11 +174,15 @@ void drawDescription(QPainter& painter, QRectF page, double top, const OdoTour& 
     painter.restore();
 }
 
-void drawOn(QPaintDevice& device, const QPageLayout& layout, int resolution, const PageDrawing& draw)
+/// False if the device does not take the page.
+bool drawOn(QPaintDevice& device, const QPageLayout& layout, int resolution, const PageDrawing& draw)
 {
-    QPainter painter(&device);
+    QPainter painter;
+    if (!painter.begin(&device))
+        return false;
     painter.scale(resolution / pointsPerInch, resolution / pointsPerInch);
     draw(painter, QRectF(QPointF(), layout.paintRect(QPageLayout::Point).size()));
+    return painter.end();
 }
 
 /// None, or why there is no file.
@@ -193,7 +197,8 @@ std::optional<QString> printToFile(const QPrinter& printer, const PageDrawing& d
         pdf.setTitle(printer.docName());
         pdf.setPageLayout(printer.pageLayout());
         pdf.setResolution(printer.resolution());
-        drawOn(pdf, pdf.pageLayout(), pdf.resolution(), draw);
+        if (!drawOn(pdf, pdf.pageLayout(), pdf.resolution(), draw))
+            return QCoreApplication::translate("TourPage", "the page cannot be drawn");
     }
     return writeWholeFile(printer.outputFileName(), out.data());
 }
@@ -207,8 +212,8 @@ QString print(QPrinter& printer, const PageDrawing& draw)
                            .arg(QFileInfo(printer.outputFileName()).fileName(), *error)
                      : QString();
     }
-    drawOn(printer, printer.pageLayout(), printer.resolution(), draw);
-    return printer.printerState() == QPrinter::Error
+    const bool isDrawn = drawOn(printer, printer.pageLayout(), printer.resolution(), draw);
+    return !isDrawn || printer.printerState() == QPrinter::Error
                ? QCoreApplication::translate("TourPage", "The printer %1 does not take the page.")
                      .arg(printer.printerName())
                : QString();
