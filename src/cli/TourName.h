@@ -1,6 +1,6 @@
 #pragma once
 
-#include "library/TourMerge.h"
+#include "model/OdoTour.h"
 
 #include <QDate>
 #include <QString>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "format/ReadableUnits.h"
-#include "library/TourMerge.h"
+#include "model/OdoTour.h"
 
 #include <QString>
 

@@ -10,7 +10,6 @@
 #include <QString>
 
 #include <cstdint>
-#include <memory>
 #include <utility>
 #include <vector>
 
@@ -31,8 +30,8 @@ public:
     const QByteArray& data() const { return _data; }
     const GeneralData& generalDataDict() const { return _generalDataDict; }
     /// In the order in which the tours' ends stand in memory, a tour stitched across the ring's end last.
-    const std::vector<std::shared_ptr<OdoTour>>& toursArray() const& { return _toursArray; }
-    std::vector<std::shared_ptr<OdoTour>> toursArray() && { return std::move(_toursArray); }
+    const Tours& toursArray() const& { return _toursArray; }
+    Tours toursArray() && { return std::move(_toursArray); }
 
     /// Why the bytes are not a raw dump, in words for people; empty if they are one.
     const QString& refusal() const { return _refusal; }
@@ -124,7 +123,7 @@ private:
     QByteArray _data;
     QDateTime _now;
     GeneralData _generalDataDict;
-    std::vector<std::shared_ptr<OdoTour>> _toursArray;
+    Tours _toursArray;
     QString _refusal;
     std::uint32_t _bufPos = 0; ///< position in the dump; in a record's handler, that of its type code
     Scan _scan;

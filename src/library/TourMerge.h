@@ -2,13 +2,7 @@
 
 #include "model/OdoTour.h"
 
-#include <memory>
-#include <vector>
-
 namespace ridelog {
-
-/// Tours in an order of their own. They are shared with whoever shows or edits them.
-using Tours = std::vector<std::shared_ptr<OdoTour>>;
 
 /// Of `incoming`, in its order, the tours that `present` does not hold yet; of several equal ones the first.
 ///

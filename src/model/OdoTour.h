@@ -209,6 +209,9 @@ private:
     mutable QDateTime _endDate;
 };
 
+/// Tours in an order of their own. They are shared with whoever shows or edits them.
+using Tours = std::vector<std::shared_ptr<OdoTour>>;
+
 inline bool operator==(const OdoTour& left, const OdoTour& right)
 {
     return left.isEqual(&right);
