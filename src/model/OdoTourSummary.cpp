@@ -22,6 +22,9 @@ std::int64_t progress(std::int32_t from, std::int32_t to, Direction direction)
 
 /// A maximal sequence of entries that all go in one direction has to exceed `threshold` metres to count.
 /// Answers how many such runs there are and how many metres they make together.
+///
+/// Roads go up and down in no order that a processor could foresee, and each of its wrong guesses costs as
+/// much as several entries: nothing is decided here, what does not count is added as zero.
 struct Runs {
     std::int32_t count = 0;
     std::int64_t metres = 0;
@@ -30,22 +33,17 @@ struct Runs {
 Runs runsExceeding(int threshold, Series series, Direction direction)
 {
     Runs runs;
-    std::int64_t runMetres = 0;
-    bool counted = false;
+    std::int64_t run = 0;     // metres of the run so far
+    std::int64_t counted = 0; // how many of them count: all or none
     auto reference = series.front().altitude;
     for (const auto& entry : series.subspan(1)) {
         const auto step = progress(reference, entry.altitude, direction);
-        runMetres += step;
-        if (step <= 0) {
-            runMetres = 0;
-            counted = false;
-        } else if (counted) {
-            runs.metres += step;
-        } else if (runMetres > threshold) {
-            runs.metres += runMetres;
-            ++runs.count;
-            counted = true;
-        }
+        const bool goesOn = step > 0;
+        const auto countedBefore = counted * goesOn;
+        run = (run + step) * goesOn;
+        counted = run * (run > threshold);
+        runs.metres += counted - countedBefore;
+        runs.count += (counted > 0) - (countedBefore > 0);
         reference = entry.altitude;
     }
     return runs;
@@ -153,19 +151,35 @@ float steepestGrade(Series series, Direction direction)
     return steepest;
 }
 
-/// The mean grade of the entries that go 2 m or more in the direction, as a positive number.
-float averageGrade(Series series, Direction direction)
-{
-    const auto sign = static_cast<float>(direction);
+/// The mean of some grades. What takes no part is added as zero, as with runs.
+struct MeanGrade {
     float sum = 0;
     int count = 0;
+
+    void add(float percentage, bool takesPart)
+    {
+        sum += percentage * static_cast<float>(takesPart);
+        count += static_cast<int>(takesPart);
+    }
+    float value() const { return count > 0 ? sum / static_cast<float>(count) : 0.0F; }
+};
+
+/// The mean grades of the entries that go 2 m or more up, and of those that go as much down, as positive
+/// numbers.
+struct AverageGrades {
+    MeanGrade up;
+    MeanGrade down;
+};
+
+AverageGrades averageGrades(Series series)
+{
+    AverageGrades grades;
     forEachStretch(series, [&](float rise, float road) {
-        if (rise * sign <= 1)
-            return;
-        sum += grade(rise, road) * sign;
-        ++count;
+        const auto percentage = grade(rise, road);
+        grades.up.add(percentage, rise > 1);
+        grades.down.add(-percentage, rise < -1);
     });
-    return count > 0 ? sum / static_cast<float>(count) : 0.0F;
+    return grades;
 }
 
 /// The value in the cache, computed if it is not there yet.
@@ -251,8 +265,12 @@ float OdoTour::maxClimbingPercentage() const
 
 float OdoTour::avgClimbingPercentage() const
 {
-    return cached(_calculatedValues.avgClimbingPercentage,
-                  [this] { return averageGrade(_data, Direction::up); });
+    return cached(_calculatedValues.avgClimbingPercentage, [this] {
+        const auto grades = averageGrades(_data);
+        // Who asks for one asks for the other next.
+        _calculatedValues.avgDecendingPercentage = grades.down.value();
+        return grades.up.value();
+    });
 }
 
 float OdoTour::maxDecendingPercentage() const
@@ -264,7 +282,7 @@ float OdoTour::maxDecendingPercentage() const
 float OdoTour::avgDecendingPercentage() const
 {
     return cached(_calculatedValues.avgDecendingPercentage,
-                  [this] { return averageGrade(_data, Direction::down); });
+                  [this] { return averageGrades(_data).down.value(); });
 }
 
 const CalculatedValues& OdoTour::calculatedValues() const
