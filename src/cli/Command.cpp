@@ -11,6 +11,7 @@
 #include "cli/ReceiveCommand.h"
 #include "cli/ShowCommand.h"
 #include "cli/SimulateCommand.h"
+#include "cli/StatsCommand.h"
 #include "cli/Wording.h"
 #include "platform/JsonWriter.h"
 
@@ -41,6 +42,7 @@ const std::vector<std::unique_ptr<const Command>>& allCommands()
         list.push_back(std::make_unique<ListCommand>());
         list.push_back(std::make_unique<ShowCommand>());
         list.push_back(std::make_unique<EditCommand>());
+        list.push_back(std::make_unique<StatsCommand>());
         list.push_back(std::make_unique<ChartCommand>());
         list.push_back(std::make_unique<PortsCommand>());
         list.push_back(std::make_unique<ReceiveCommand>());

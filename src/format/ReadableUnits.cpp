@@ -14,9 +14,10 @@ double ReadableUnits::speed(float kilometresPerHour) const
     return distance(kilometresPerHour);
 }
 
-double ReadableUnits::altitude(int metres) const
+double ReadableUnits::altitude(std::int64_t metres) const
 {
-    return _miles ? static_cast<double>(static_cast<float>(metres) * UnitFactors::feetPerMetre) : metres;
+    return _miles ? static_cast<double>(static_cast<float>(metres) * UnitFactors::feetPerMetre)
+                  : static_cast<double>(metres);
 }
 
 QString ReadableUnits::distanceUnit() const

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <cstdint>
+
 namespace ridelog {
 
 /// Metric values as people want to read them: in kilometres, km/h and metres, or in miles, mph and feet.
@@ -11,7 +13,7 @@ public:
 
     double distance(float kilometres) const;
     double speed(float kilometresPerHour) const;
-    double altitude(int metres) const;
+    double altitude(std::int64_t metres) const;
 
     QString distanceUnit() const;
     QString speedUnit() const;
