@@ -1,12 +1,13 @@
 // How long a large document takes to open and to save, against reading and writing the same bytes; how much
 // memory it takes to open; for how much of a save's time the main thread is held when unsaved changes are
-// kept aside; and how the time of a merge grows with the number of tours.
+// kept aside; how the time of a merge grows with the number of tours; and how long the first statistics take.
 //
 // document [TOURS [SAMPLES]] measures documents of TOURS tours (10,000) with SAMPLES samples each (500).
 
 #include "bench/PeakMemory.h"
 #include "bench/RatioReport.h"
 #include "library/MyDocument.h"
+#include "model/OdoStat.h"
 #include "platform/Log.h"
 #include "platform/WholeFile.h"
 
@@ -30,7 +31,8 @@ constexpr double promisedOpen = 8;
 constexpr double promisedSave = 3;
 constexpr double promisedStoredForm = 0.1;
 constexpr double promisedMerge = 2.2;
-constexpr double promisedMemory = 4; // times the file
+constexpr double promisedMemory = 4;      // times the file
+constexpr double promisedStatistics = 20; // milliseconds per 1,000,000 series entries
 
 void orExit(const std::optional<QString>& error)
 {
@@ -167,6 +169,54 @@ void merge(benchmark::State& state, const Tours& present, const Tours& incoming)
     }
 }
 
+/// One pass over all series of a document, which is the least that the first statistics have to do.
+void passOverSeries(benchmark::State& state, const Workload& load)
+{
+    MyDocument document;
+    orExit(document.open(load.path));
+    for (auto _ : state) {
+        std::int64_t sum = 0;
+        for (const auto& tour : document.toursArray()) {
+            for (const auto& entry : tour->data())
+                sum += entry.altitude;
+        }
+        benchmark::DoNotOptimize(sum);
+    }
+}
+
+/// Of a document just opened, none of whose tours has been asked for its climbs.
+void firstStatistics(benchmark::State& state, const Workload& load)
+{
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto document = std::make_unique<MyDocument>();
+        orExit(document->open(load.path));
+        coolCaches();
+        state.ResumeTiming();
+        OdoStat stat(WeekRule{}, document->toursArray().front()->date());
+        stat.setToursArray(document->toursArray());
+        benchmark::DoNotOptimize(stat.globalStat().distance);
+        state.PauseTiming();
+        document.reset();
+        state.ResumeTiming();
+    }
+}
+
+/// What a step to another year takes.
+void stepOfAYear(benchmark::State& state, const Workload& load)
+{
+    MyDocument document;
+    orExit(document.open(load.path));
+    OdoStat stat(WeekRule{}, document.toursArray().front()->date());
+    stat.setToursArray(document.toursArray());
+    for (auto _ : state) {
+        for (const auto period : {Period::year, Period::month, Period::week}) {
+            stat.setStat(period, std::nullopt);
+            benchmark::DoNotOptimize(stat.stat(period).distance);
+        }
+    }
+}
+
 int positiveWord(int argc, char** argv, int index, int otherwise)
 {
     const int number = index < argc ? std::atoi(argv[index]) : otherwise;
@@ -225,14 +275,23 @@ int main(int argc, char** argv)
     measure("StoredForm", [&](benchmark::State& state) { takeStoredForm(state, load); });
     measure("MergeHalf", [&](benchmark::State& state) { merge(state, halfPresent, halfIncoming); });
     measure("Merge", [&](benchmark::State& state) { merge(state, present, incoming); });
+    measure("PassOverSeries", [&](benchmark::State& state) { passOverSeries(state, load); });
+    measure("FirstStatistics", [&](benchmark::State& state) { firstStatistics(state, load); });
+    measure("StepOfAYear", [&](benchmark::State& state) { stepOfAYear(state, load); });
     report.run();
 
     const auto open = report.ratioOf("Open", "ReadFile", promisedOpen);
     const auto save = report.ratioOf("Save", "WriteFile", promisedSave);
     const auto storedForm = report.ratioOf("StoredForm", "Save", promisedStoredForm);
     const auto merged = report.ratioOf("Merge", "MergeHalf", promisedMerge);
+    const auto first = report.medianOf("FirstStatistics");
+    const auto statistics = first / (static_cast<double>(tours) * (samples + 1)) * 1e6;
+    std::printf(
+        "FirstStatistics: %.2f ms per 1,000,000 series entries (at most %.0f), %.2f x PassOverSeries\n",
+        statistics, promisedStatistics, first / report.medianOf("PassOverSeries"));
     return open <= promisedOpen && save <= promisedSave && storedForm <= promisedStoredForm &&
-                   merged <= promisedMerge && memoryRatio <= promisedMemory
+                   merged <= promisedMerge && memoryRatio <= promisedMemory &&
+                   statistics <= promisedStatistics
                ? 0
                : 1;
 }

@@ -57,4 +57,10 @@ double RatioReport::ratioOf(const std::string& measured, const std::string& base
     return ratio;
 }
 
+double RatioReport::medianOf(const std::string& measured) const
+{
+    const auto found = _medians.find(measured);
+    return found == _medians.end() ? std::numeric_limits<double>::infinity() : found->second;
+}
+
 } // namespace ridelog

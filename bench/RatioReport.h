@@ -18,6 +18,9 @@ public:
     /// beside the promised limit.
     double ratioOf(const std::string& measured, const std::string& baseline, double limit) const;
 
+    /// The median time in the unit that it was registered with; infinity if it did not run.
+    double medianOf(const std::string& measured) const;
+
 private:
     std::map<std::string, double> _medians; ///< real times by name, with the arguments after a slash
 };
