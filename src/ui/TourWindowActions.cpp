@@ -1,6 +1,7 @@
 // Menus of a tour window.
 
 #include "library/MyDocument.h"
+#include "ui/AltitudeRange.h"
 #include "ui/ApplicationWindows.h"
 #include "ui/DescriptionEdit.h"
 #include "ui/SegmentedControl.h"
@@ -136,7 +137,7 @@ void TourWindowController::makeViewMenu()
     auto& menu = *menuBar()->addMenu(tr("&View"));
     addSegments(menu, *_xSegmentControl, Qt::Key_1);
     addSegments(menu, *_ySegmentControl, Qt::Key_3);
-    addButtonEntry(menu, tr("&Manual Range of Altitudes"), *_useManualRange);
+    addButtonEntry(menu, tr("&Manual Range of Altitudes"), _altitudeRange->useManualRange());
     menu.addSeparator();
     addButtonEntry(menu, tr("&Data"), *_dataButton, Qt::CTRL | Qt::Key_D);
     addButtonEntry(menu, tr("S&ummary"), *_summaryButton, Qt::CTRL | Qt::SHIFT | Qt::Key_D);

@@ -160,7 +160,6 @@ void TourWindowController::useMilesDidChange()
     _summary->refresh();
     _chart->setMpFormatterForXAxis(UnitFormatters::chartXAxis(_defaults));
     setYFormatter();
-    showRanges();
     _chart->update();
 }
 

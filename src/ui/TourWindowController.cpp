@@ -3,6 +3,7 @@
 #include "library/DefaultsKeys.h"
 #include "library/MyDocument.h"
 #include "platform/Defaults.h"
+#include "ui/AltitudeRange.h"
 #include "ui/DescriptionEdit.h"
 #include "ui/FileDrop.h"
 #include "ui/MessageLine.h"
@@ -12,12 +13,10 @@
 #include "ui/UiLog.h"
 #include "ui/WindowFrame.h"
 
-#include <QCheckBox>
 #include <QDockWidget>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
 #include <QSplitter>
@@ -55,7 +54,9 @@ TourWindowController::TourWindowController(ApplicationWindows& windows, MyDocume
     auto* layout = new QVBoxLayout(upper);
     layout->addWidget(makeHead());
     layout->addWidget(makeControls());
-    layout->addWidget(makeRange());
+    _altitudeRange = new AltitudeRange(_defaults);
+    connect(_altitudeRange, &AltitudeRange::edited, this, &TourWindowController::showMessage);
+    layout->addWidget(_altitudeRange);
     layout->addWidget(makeChart(), 1);
     auto* splitter = new QSplitter(Qt::Vertical);
     splitter->setChildrenCollapsible(false);
@@ -75,7 +76,6 @@ TourWindowController::TourWindowController(ApplicationWindows& windows, MyDocume
     qCDebug(lcUi, "UndoManager %p", static_cast<const void*>(&_document.undoManager()));
 
     restoreAxes();
-    showRanges();
     readLabelsAndSetChartNames();
     if (!restoreFrame(*this, _defaults, DefaultsKeys::tourWindowFrame(_odoTour->description())))
         resize(usualSize.boundedTo(screen()->availableSize()));
@@ -137,34 +137,6 @@ QWidget* TourWindowController::makeControls()
     for (auto* button : {_dataButton, _summaryButton, _saveChartButton})
         layout->addWidget(button);
     return controls;
-}
-
-QWidget* TourWindowController::makeRange()
-{
-    _useManualRange = new QCheckBox(tr("&Altitudes from"));
-    connect(_useManualRange, &QCheckBox::clicked, this,
-            [this](bool use) { _defaults.setValue(DefaultsKeys::useManualRange, use); });
-    const auto makeField = [this](const QString& name, const QString& key) {
-        auto* field = new QLineEdit;
-        field->setAccessibleName(name);
-        field->setFixedWidth(fontMetrics().horizontalAdvance(QStringLiteral("-00000.00")));
-        connect(field, &QLineEdit::editingFinished, this, [this, field, key] { commitRange(*field, key); });
-        return field;
-    };
-    _minRangeTextField = makeField(tr("Lowest altitude of the chart"), DefaultsKeys::minRange);
-    _maxRangeTextField = makeField(tr("Highest altitude of the chart"), DefaultsKeys::maxRange);
-    _rangeUnit = new QLabel;
-
-    auto* range = new QWidget;
-    auto* layout = new QHBoxLayout(range);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(_useManualRange);
-    layout->addWidget(_minRangeTextField);
-    layout->addWidget(new QLabel(tr("to")));
-    layout->addWidget(_maxRangeTextField);
-    layout->addWidget(_rangeUnit);
-    layout->addStretch();
-    return range;
 }
 
 QWidget* TourWindowController::makeChart()
@@ -269,8 +241,6 @@ void TourWindowController::setupGUI()
     qCDebug(lcUi, "[setupGUI]");
     useMilesDidChange();
     _defaults.observe(DefaultsKeys::useMiles, this, [this] { useMilesDidChange(); });
-    for (const auto& key : {DefaultsKeys::useManualRange, DefaultsKeys::minRange, DefaultsKeys::maxRange})
-        _defaults.observe(key, this, [this] { showRanges(); });
 }
 
 void TourWindowController::changeEvent(QEvent* event)
@@ -278,6 +248,16 @@ void TourWindowController::changeEvent(QEvent* event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         Q_EMIT activated();
+}
+
+QLineEdit& TourWindowController::minRangeTextField()
+{
+    return _altitudeRange->minRangeTextField();
+}
+
+QLineEdit& TourWindowController::maxRangeTextField()
+{
+    return _altitudeRange->maxRangeTextField();
 }
 
 QString TourWindowController::message() const

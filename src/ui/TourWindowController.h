@@ -10,8 +10,6 @@
 
 QT_BEGIN_NAMESPACE
 class QBoxLayout;
-class QCheckBox;
-class QLabel;
 class QLineEdit;
 class QTableView;
 class QToolBar;
@@ -20,6 +18,7 @@ QT_END_NAMESPACE
 
 namespace ridelog {
 
+class AltitudeRange;
 class ApplicationWindows;
 class Defaults;
 class DescriptionEdit;
@@ -58,8 +57,8 @@ public:
     QDockWidget& dataTableDrawer() { return *_dataTableDrawer; }
     QDockWidget& summaryDrawer() { return *_summaryDrawer; }
     QTableView& dataTable() { return *_dataTable; }
-    QLineEdit& minRangeTextField() { return *_minRangeTextField; }
-    QLineEdit& maxRangeTextField() { return *_maxRangeTextField; }
+    QLineEdit& minRangeTextField();
+    QLineEdit& maxRangeTextField();
     /// The values under the mouse, or of the sample that a key has led to, in words.
     QString readout() const;
     /// What has just happened, in words.
@@ -88,7 +87,6 @@ private:
     QWidget* makeHead();
     QWidget* makeControls();
     void addAxisControls(QBoxLayout& layout);
-    QWidget* makeRange();
     QWidget* makeChart();
     QWidget* makeDescription();
     QDockWidget* makeDrawer(const QString& title, const QString& name, QWidget& content,
@@ -132,8 +130,6 @@ private:
     void commitTitle();
     void commitDescription();
     void askForLink();
-    void commitRange(QLineEdit& field, const QString& key);
-    void showRanges();
 
     // Files and paper
     void saveChart();
@@ -161,10 +157,7 @@ private:
     QToolButton* _dataButton = nullptr;
     QToolButton* _summaryButton = nullptr;
     QToolButton* _saveChartButton = nullptr;
-    QCheckBox* _useManualRange = nullptr;
-    QLineEdit* _minRangeTextField = nullptr;
-    QLineEdit* _maxRangeTextField = nullptr;
-    QLabel* _rangeUnit = nullptr;
+    AltitudeRange* _altitudeRange = nullptr;
     QDockWidget* _dataTableDrawer = nullptr;
     QDockWidget* _summaryDrawer = nullptr;
     QTableView* _dataTable = nullptr;

@@ -1,10 +1,7 @@
 // What the rider changes in a tour window.
 
-#include "format/ReadableUnits.h"
-#include "format/UnitFormatters.h"
-#include "library/DefaultsKeys.h"
 #include "library/MyDocument.h"
-#include "platform/Defaults.h"
+#include "ui/AltitudeRange.h"
 #include "ui/DescriptionEdit.h"
 #include "ui/ElidedLabel.h"
 #include "ui/TourTexts.h"
@@ -12,13 +9,9 @@
 #include "ui/UiLog.h"
 #include "ui/WindowTitle.h"
 
-#include <QCheckBox>
 #include <QInputDialog>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
-
-#include <cmath>
 
 namespace ridelog {
 namespace {
@@ -28,9 +21,6 @@ StyledText shownDescription(const OdoTour& tour)
 {
     return tour.shownDescription().isEmpty() ? StyledText() : tour.tourDescription();
 }
-
-/// Metres: no mountain is as high, and no mine as deep.
-constexpr float mostOfAltitude = 20'000;
 
 /// Of a title, as far as anybody sees it in a window's frame.
 constexpr qsizetype mostOfTitle = 200;
@@ -60,6 +50,7 @@ void TourWindowController::finishEditing()
 {
     commitTitle();
     _text->finishEditing();
+    _altitudeRange->finishEditing();
 }
 
 void TourWindowController::commitTitle()
@@ -106,48 +97,6 @@ void TourWindowController::askForLink()
     connect(panel, &QInputDialog::textValueSelected, _text,
             [this](const QString& address) { _text->setLink(address.trimmed()); });
     panel->open();
-}
-
-// The manual range
-
-void TourWindowController::commitRange(QLineEdit& field, const QString& key)
-{
-    // What nobody has typed is not read back: the text may say less than the value.
-    if (!field.isModified())
-        return;
-    field.setModified(false);
-    showMessage({});
-    auto formatter = UnitFormatters::manualRange(_defaults);
-    // It reads in the units that it last wrote with.
-    formatter.stringForObjectValue(0);
-    QVariant metres;
-    const bool isNumber = formatter.getObjectValue(&metres, field.text(), nullptr);
-    const bool isLowest = &field == _minRangeTextField;
-    const auto lowest = isLowest ? metres.toFloat() : _defaults.floatForKey(DefaultsKeys::minRange);
-    const auto highest = isLowest ? _defaults.floatForKey(DefaultsKeys::maxRange) : metres.toFloat();
-    if (!isNumber || !(std::abs(metres.toFloat()) <= mostOfAltitude))
-        showMessage(tr("“%1” is no altitude. Write a number, like 850.").arg(field.text()));
-    else if (lowest >= highest)
-        showMessage(tr("The lowest altitude has to be below the highest."));
-    else
-        _defaults.setValue(key, metres);
-    showRanges();
-}
-
-void TourWindowController::showRanges()
-{
-    const bool isUsed = _defaults.boolForKey(DefaultsKeys::useManualRange);
-    _useManualRange->setChecked(isUsed);
-    _rangeUnit->setText(ReadableUnits(_defaults.boolForKey(DefaultsKeys::useMiles)).altitudeUnit());
-    auto formatter = UnitFormatters::manualRange(_defaults);
-    const auto show = [&](QLineEdit& field, const QString& key) {
-        field.setEnabled(isUsed);
-        // What is being typed is not taken away.
-        if (!field.isModified())
-            field.setText(formatter.stringForObjectValue(_defaults.floatForKey(key)));
-    };
-    show(*_minRangeTextField, DefaultsKeys::minRange);
-    show(*_maxRangeTextField, DefaultsKeys::maxRange);
 }
 
 } // namespace ridelog

@@ -263,13 +263,17 @@ TEST_F(TourWindow, TheManualRangeIsThatOfAllCharts)
     EXPECT_EQ(defaults->floatForKey(DefaultsKeys::maxRange), 1000);
     EXPECT_EQ(shown.message(), QStringLiteral("“high” is no altitude. Write a number, like 850."));
     EXPECT_EQ(shown.maxRangeTextField().text(), QStringLiteral("1000"));
-    type(shown.minRangeTextField(), "1000");
-    EXPECT_EQ(shown.message(), QStringLiteral("The lowest altitude has to be below the highest."));
-    type(shown.minRangeTextField(), "-1e30");
-    EXPECT_EQ(defaults->floatForKey(DefaultsKeys::minRange), 0);
-    type(shown.minRangeTextField(), "-20");
-    EXPECT_EQ(defaults->floatForKey(DefaultsKeys::minRange), -20);
-    EXPECT_TRUE(shown.message().isEmpty());
+    type(shown.maxRangeTextField(), "10001");
+    EXPECT_EQ(shown.message(),
+              QStringLiteral("“10001” is no altitude: it has to be between -1000 and 10000 m"));
+    type(shown.minRangeTextField(), "1200");
+    EXPECT_EQ(shown.maxRangeTextField().text(), QStringLiteral("2200")) << "the other limit goes along";
+    type(shown.maxRangeTextField(), "1000");
+    EXPECT_EQ(shown.minRangeTextField().text(), QStringLiteral("0"));
+    shown.minRangeTextField().selectAll();
+    QTest::keyClicks(&shown.minRangeTextField(), QStringLiteral("200"));
+    shown.finishEditing();
+    EXPECT_EQ(defaults->floatForKey(DefaultsKeys::minRange), 200);
 
     defaults->setValue(DefaultsKeys::useMiles, true);
     EXPECT_EQ(shown.maxRangeTextField().text(), QStringLiteral("3280.8"));
