@@ -66,6 +66,8 @@ inline const QString recentDocuments =
 
 // Everywhere
 using UnitsKeys::useMiles; ///< bool: show miles, mph and feet
+inline const QString language =
+    QStringLiteral("language"); ///< text: code of the windows' language; none: the system's
 
 // Window frames
 inline const QString mainWindowFrame = QStringLiteral("MainWindow");

@@ -4,6 +4,7 @@
 #include "platform/Defaults.h"
 #include "ui/Counted.h"
 #include "ui/MainWindowController.h"
+#include "ui/PreferencesController.h"
 #include "ui/Sheet.h"
 #include "ui/TourWindowController.h"
 #include "ui/UiLog.h"
@@ -132,6 +133,13 @@ void ApplicationWindows::bringToFront(QWidget& window)
     window.show();
     window.raise();
     window.activateWindow();
+}
+
+void ApplicationWindows::showPreferences()
+{
+    if (!_preferences)
+        _preferences = std::make_unique<PreferencesController>(_defaults);
+    bringToFront(*_preferences);
 }
 
 // What a crash has left

@@ -19,6 +19,7 @@ class AppController;
 class Defaults;
 class MainWindowController;
 class MyDocument;
+class PreferencesController;
 struct Leftover;
 class XMLUpdater;
 struct ApplicationInfo;
@@ -53,6 +54,11 @@ public:
     void openDocument(const QString& path, MainWindowController* over = nullptr);
     /// Asks for a document to open, or a dump to import.
     void askForDocument(QWidget* over);
+    /// Shows the preferences panel, the same one each time, and brings it to the front.
+    void showPreferences();
+    /// None before it has been asked for.
+    PreferencesController* preferences() const { return _preferences.get(); }
+
     /// Looks for newer versions there and not where the build says.
     void setUpdateUrl(const QString& url) { _updateUrl = url; }
     /// Looks for a newer version if that is due, and says so only if there is one.
@@ -93,6 +99,8 @@ private:
     std::vector<MainWindowController*> _mainWindows;
     QPointer<MainWindowController> _lastInFront;
     QPointer<StartWindow> _startWindow;
+    std::unique_ptr<PreferencesController>
+        _preferences;      ///< from the first time on, until the application ends
     QStringList _failures; ///< to open the documents asked for last
 };
 

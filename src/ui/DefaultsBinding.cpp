@@ -3,6 +3,11 @@
 #include "platform/Defaults.h"
 
 #include <QCheckBox>
+#include <QComboBox>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+#include <algorithm>
 
 namespace ridelog {
 namespace {
@@ -23,6 +28,25 @@ void bind(QCheckBox& box, Defaults& defaults, const QString& key)
     follow(box, defaults, key, [&box, &defaults, key] { box.setChecked(defaults.boolForKey(key)); });
     QObject::connect(&box, &QCheckBox::clicked, &defaults,
                      [&defaults, key](bool isChecked) { defaults.setValue(key, isChecked); });
+}
+
+void bind(QSpinBox& field, Defaults& defaults, const QString& key)
+{
+    field.setObjectName(key);
+    follow(field, defaults, key, [&field, &defaults, key] {
+        const QSignalBlocker blocker(field);
+        field.setValue(defaults.integerForKey(key));
+    });
+    QObject::connect(&field, &QSpinBox::valueChanged, &defaults,
+                     [&defaults, key](int value) { defaults.setValue(key, value); });
+}
+
+void bind(QComboBox& box, Defaults& defaults, const QString& key, const std::function<QVariant()>& read)
+{
+    box.setObjectName(key);
+    follow(box, defaults, key, [&box, read] { box.setCurrentIndex(std::max(box.findData(read()), 0)); });
+    QObject::connect(&box, &QComboBox::activated, &defaults,
+                     [&box, &defaults, key](int entry) { defaults.setValue(key, box.itemData(entry)); });
 }
 
 void enableWhile(QWidget& control, const Defaults& defaults, const QString& key)

@@ -134,6 +134,9 @@ void MainWindowController::makeEditMenu()
     }
     addFilledMenu(menu, tr("&Columns"), [this](QMenu& columns) { _tableView->fillColumnsMenu(columns); });
     addFilledMenu(menu, tr("Sort &By"), [this](QMenu& orders) { _tableView->fillOrderMenu(orders); });
+    menu.addSeparator();
+    addAction(menu, tr("&Preferences…"), Qt::CTRL | Qt::Key_Comma, &Window::showPreferencesPanel)
+        ->setMenuRole(QAction::PreferencesRole);
     // In a text field, and in the drawer, Delete means something else.
     for (auto* action : {_removeAction, _restoreAction})
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
@@ -289,6 +292,11 @@ void MainWindowController::toggleSimulatedDevice()
         return;
     _connectView->selectPort(device.path());
     tell(tr("The simulated device is plugged in. Press Connect to take its tours."));
+}
+
+void MainWindowController::showPreferencesPanel()
+{
+    _windows.showPreferences();
 }
 
 void MainWindowController::checkForUpdates()

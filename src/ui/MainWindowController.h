@@ -138,6 +138,7 @@ private:
     void revertDocument();
     void find();
     void selectAll();
+    void showPreferencesPanel();
     void checkForUpdates();
     void sendFeedback();
     void showAbout();

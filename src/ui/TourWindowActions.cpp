@@ -97,6 +97,10 @@ void TourWindowController::makeEditMenu()
             &TourWindowController::copySummary);
     _dataTable->addAction(copyAction);
     _dataTable->setContextMenuPolicy(Qt::ActionsContextMenu);
+    menu.addSeparator();
+    auto* preferencesAction = addEntry(menu, tr("&Preferences…"), Qt::CTRL | Qt::Key_Comma);
+    preferencesAction->setMenuRole(QAction::PreferencesRole);
+    connect(preferencesAction, &QAction::triggered, &_windows, &ApplicationWindows::showPreferences);
 }
 
 void TourWindowController::makeFormatMenu()

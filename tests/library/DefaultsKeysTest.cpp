@@ -81,6 +81,7 @@ TEST_F(DefaultsKeysTest, NotRegistered)
         {DefaultsKeys::odoStatDate, "odoStatDate"},
         {DefaultsKeys::checkedForUpdateOn, "checkedForUpdateOn"},
         {DefaultsKeys::recentDocuments, "recentDocuments"},
+        {DefaultsKeys::language, "language"},
         {DefaultsKeys::mainWindowFrame, "MainWindow"},
         {DefaultsKeys::statWindowFrame, "statWindow"},
         {DefaultsKeys::preferencesPanelFrame, "PreferencesPanel"},

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QDialog>
+
+QT_BEGIN_NAMESPACE
+class QTabWidget;
+QT_END_NAMESPACE
+
+namespace ridelog {
+
+class Defaults;
+
+/// The preferences panel: what the rider can choose for all windows, on pages. Each choice counts at once.
+/// Closing the panel hides it.
+class PreferencesController : public QDialog {
+    Q_OBJECT
+
+public:
+    /// `defaults` have to outlive it.
+    explicit PreferencesController(Defaults& defaults);
+    ~PreferencesController() override;
+
+    QTabWidget& pages() { return *_pages; }
+
+private:
+    QWidget* makeGeneralPage();
+
+    Defaults& _defaults;
+    QTabWidget* _pages;
+};
+
+} // namespace ridelog

@@ -1,0 +1,68 @@
+// What stands on the pages of the preferences panel. The letters that lead to the controls are those of a
+// page, and differ from those of the tabs and of the button below.
+
+#include "library/DefaultsKeys.h"
+#include "platform/Defaults.h"
+#include "ui/Languages.h"
+#include "ui/PreferencesController.h"
+#include "ui/PreferencesPage.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QSpinBox>
+
+namespace ridelog {
+namespace {
+
+constexpr int mostDays = 365;
+
+QSpinBox* numberField(const QString& name, int least, int most)
+{
+    auto* field = new QSpinBox;
+    field->setAccessibleName(name);
+    field->setRange(least, most);
+    // Half a number is none.
+    field->setKeyboardTracking(false);
+    field->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    return field;
+}
+
+} // namespace
+
+QWidget* PreferencesController::makeGeneralPage()
+{
+    auto* page = new PreferencesPage(_defaults);
+    auto& form = page->form();
+
+    auto* units = new QComboBox;
+    units->addItem(tr("Kilometres, km/h and metres"), false);
+    units->addItem(tr("Miles, mph and feet"), true);
+    form.addRow(tr("&Units:"), page->tied(units, DefaultsKeys::useMiles,
+                                          [this] { return _defaults.boolForKey(DefaultsKeys::useMiles); }));
+
+    form.addRow(tr("Transfers:"),
+                page->tied(new QCheckBox(tr("&Save the raw dump that arrives")), DefaultsKeys::saveRawData));
+    page->addHint(tr("As odoData.odo in your home folder."));
+
+    form.addRow(tr("Newer versions:"),
+                page->tied(new QCheckBox(tr("Look for them &automatically")), DefaultsKeys::automaticCheck));
+    auto* days = numberField(tr("Days between two looks for newer versions"), 1, mostDays);
+    days->setSuffix(tr(" days"));
+    days->setSpecialValueText(tr("1 day"));
+    enableWhile(*days, _defaults, DefaultsKeys::automaticCheck);
+    form.addRow(tr("&Every:"), page->tied(days, DefaultsKeys::checkForUpdateAfterDays));
+
+    auto* language = new QComboBox;
+    language->addItem(tr("System language"));
+    for (const auto& one : languages)
+        language->addItem(one.name, one.code);
+    form.addRow(tr("La&nguage:"), page->tied(language, DefaultsKeys::language, [this] {
+        return _defaults.valueForKey(DefaultsKeys::language);
+    }));
+    page->addHint(tr("Counts from the next start on."));
+    page->addResetButton();
+    return page;
+}
+
+} // namespace ridelog

@@ -1,0 +1,222 @@
+#include "tests/ui/TourWindow.h"
+#include "ui/PreferencesController.h"
+
+#include <QAccessible>
+#include <QSet>
+#include <QSpinBox>
+#include <QTabWidget>
+
+#include <chrono>
+#include <tuple>
+
+namespace ridelog {
+namespace {
+
+/// The panel, used with mouse and keys.
+class Preferences : public TourWindow {
+protected:
+    /// Asks for it by key.
+    PreferencesController& openFrom(QWidget& place)
+    {
+        inFront(place);
+        QTest::keyClick(&place, Qt::Key_Comma, Qt::ControlModifier);
+        inFront(panel());
+        return panel();
+    }
+    PreferencesController& open()
+    {
+        if (!windows)
+            start();
+        return openFrom(window());
+    }
+    PreferencesController& panel() { return *windows->preferences(); }
+    QWidget& page() { return *panel().pages().currentWidget(); }
+    /// The control of a key, on the page that is shown then.
+    template <typename Control = QWidget>
+    Control& control(const QString& key)
+    {
+        auto& pages = panel().pages();
+        for (int number = 0; number < pages.count(); ++number) {
+            if (auto* found = pages.widget(number)->findChild<Control*>(key)) {
+                pages.setCurrentIndex(number);
+                return *found;
+            }
+        }
+        throw std::runtime_error("no control for " + key.toStdString());
+    }
+    template <typename Field>
+    static void type(Field& field, const char* text)
+    {
+        field.setFocus();
+        field.selectAll();
+        QTest::keyClicks(&field, QString::fromLatin1(text));
+        QTest::keyClick(&field, Qt::Key_Return);
+    }
+    void press(const char* text)
+    {
+        for (auto* button : page().findChildren<QAbstractButton*>()) {
+            if (button->text().remove(u'&') == QString::fromLatin1(text))
+                return click(*button);
+        }
+        ADD_FAILURE() << "no button " << text;
+    }
+
+    const QStringList boxes{DefaultsKeys::saveRawData, DefaultsKeys::automaticCheck};
+    const QStringList keys = boxes + QStringList{DefaultsKeys::useMiles, DefaultsKeys::language,
+                                                 DefaultsKeys::checkForUpdateAfterDays};
+};
+
+TEST_F(Preferences, BoxesAndListsFollowTheirKeysAndTheKeysThem)
+{
+    open();
+    for (const auto& key : boxes) {
+        auto& box = control<QCheckBox>(key);
+        const bool before = defaults->boolForKey(key);
+        EXPECT_EQ(box.isChecked(), before) << qPrintable(key);
+        QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(8, box.height() / 2));
+        EXPECT_EQ(defaults->boolForKey(key), !before) << qPrintable(key);
+        defaults->setValue(key, before);
+        EXPECT_EQ(box.isChecked(), before) << qPrintable(key);
+    }
+    auto& units = control<QComboBox>(DefaultsKeys::useMiles);
+    QTest::keyClick(&units, Qt::Key_Down);
+    EXPECT_TRUE(action(QStringLiteral("Miles, mph and Feet"))->isChecked());
+    Application::trigger("Kilometres, km/h and Metres");
+    EXPECT_EQ(units.currentIndex(), 0);
+
+    auto& language = control<QComboBox>(DefaultsKeys::language);
+    QTest::keyClick(&language, Qt::Key_Down);
+    EXPECT_EQ(defaults->textForKey(DefaultsKeys::language), QStringLiteral("en"));
+    QTest::keyClick(&language, Qt::Key_Up);
+    EXPECT_FALSE(defaults->contains(DefaultsKeys::language));
+    EXPECT_EQ(language.currentText(), QStringLiteral("System language"));
+    defaults->setValue(DefaultsKeys::language, QStringLiteral("en"));
+    EXPECT_EQ(language.currentText(), QStringLiteral("English"));
+}
+
+TEST_F(Preferences, NumbersFollowTheirKeysAndTheKeysThem)
+{
+    open();
+    defaults->setValue(DefaultsKeys::automaticCheck, true);
+    const std::tuple<QString, const char*, int> typed[] = {{DefaultsKeys::checkForUpdateAfterDays, "14", 14},
+                                                           {DefaultsKeys::checkForUpdateAfterDays, "1", 1}};
+    for (const auto& [key, text, number] : typed) {
+        auto& field = control<QSpinBox>(key);
+        type(field, text);
+        EXPECT_EQ(defaults->integerForKey(key), number);
+        QTest::keyClick(&field, Qt::Key_Up);
+        EXPECT_EQ(defaults->integerForKey(key), number + 1);
+        defaults->setValue(key, number + 5);
+        EXPECT_EQ(field.value(), number + 5);
+    }
+    EXPECT_TRUE(panel().isVisible()) << "Return is the field's";
+    auto& days = control<QSpinBox>(DefaultsKeys::checkForUpdateAfterDays);
+    days.selectAll();
+    QTest::keyClicks(&days, QStringLiteral("30"));
+    QTest::keyClick(&days, Qt::Key_Escape);
+    EXPECT_TRUE(panel().isHidden());
+    EXPECT_EQ(defaults->integerForKey(DefaultsKeys::checkForUpdateAfterDays), 30) << "what was typed counts";
+    open();
+    days.selectAll();
+    QTest::keyClicks(&days, QStringLiteral("31"));
+    end();
+    start();
+    EXPECT_EQ(defaults->integerForKey(DefaultsKeys::checkForUpdateAfterDays), 31)
+        << "also at the end of the program";
+}
+
+TEST_F(Preferences, APageGoesBackToItsDefaultsAndNoOther)
+{
+    open();
+    for (const auto& key : keys)
+        defaults->setValue(key, QStringLiteral("1"));
+    defaults->setValue(DefaultsKeys::drawerOpen, false);
+    auto left = keys;
+    for (int number = 0; number < panel().pages().count(); ++number) {
+        panel().pages().setCurrentIndex(number);
+        press("Reset to Defaults");
+        left.removeIf([this](const QString& key) {
+            const bool isOfPage = page().findChild<QWidget*>(key) != nullptr;
+            EXPECT_EQ(defaults->isStored(key), !isOfPage) << qPrintable(key);
+            return isOfPage;
+        });
+    }
+    EXPECT_TRUE(left.isEmpty()) << qPrintable(left.join(u' ')) << " have no control";
+    EXPECT_TRUE(defaults->isStored(DefaultsKeys::drawerOpen));
+    EXPECT_EQ(control<QSpinBox>(DefaultsKeys::checkForUpdateAfterDays).value(), 7);
+}
+
+TEST_F(Preferences, NonsenseInTheSettingsIsSurvivedAndStays)
+{
+    write("settings", "[General]\ncheckForUpdateAfterDays=99999\nlanguage=xx, yy\nuseMiles=perhaps\n"
+                      "PreferencesPanel=here\n");
+    open();
+    EXPECT_EQ(control<QSpinBox>(DefaultsKeys::checkForUpdateAfterDays).value(), 365);
+    EXPECT_EQ(control<QComboBox>(DefaultsKeys::language).currentIndex(), 0);
+    EXPECT_EQ(control<QComboBox>(DefaultsKeys::useMiles).currentIndex(), 0);
+    panel().close();
+    EXPECT_EQ(defaults->integerForKey(DefaultsKeys::checkForUpdateAfterDays), 99999)
+        << "nobody has changed it";
+}
+
+TEST_F(Preferences, AreOnePanelThatKnowsItsPlaceAndDoesNotKeepTheApplicationAlive)
+{
+    auto& tour = TourWindow::open(tourThrough({500, 600, 550}));
+    ASSERT_EQ(controller->saveDocumentAs(document(), path("tours.ridelog")), std::nullopt);
+    auto& first = open();
+    first.setGeometry(120, 90, 640, 480);
+    QTest::keyClick(&first, Qt::Key_Escape);
+    EXPECT_TRUE(first.isHidden());
+    EXPECT_EQ(&openFrom(tour), &first);
+    EXPECT_TRUE(first.isVisible());
+    tour.close();
+
+    QTimer tooLate;
+    tooLate.callOnTimeout([] { QCoreApplication::exit(1); });
+    tooLate.start(std::chrono::seconds(20));
+    QTimer::singleShot(0, &window(), &QWidget::close);
+    EXPECT_EQ(QApplication::exec(), 0);
+    end();
+    start();
+    EXPECT_EQ(open().geometry(), QRect(120, 90, 640, 480));
+}
+
+TEST_F(Preferences, EachControlHasALetterOfItsOwnANameAndATabStop)
+{
+    auto& pages = open().pages();
+    for (int number = 0; number < pages.count(); ++number) {
+        pages.setCurrentIndex(number);
+        QStringList letters;
+        QSet<const QObject*> reached;
+        const auto reach = [&](const QString& text, const QObject* target) {
+            const auto letter = QKeySequence::mnemonic(text).toString();
+            EXPECT_FALSE(letters.contains(letter)) << qPrintable(text);
+            if (!letter.isEmpty()) {
+                letters << letter;
+                reached << target;
+            }
+        };
+        for (int tab = 0; tab < pages.count(); ++tab)
+            reach(pages.tabText(tab), &pages);
+        for (auto* one : panel().findChildren<QWidget*>()) {
+            const auto* label = qobject_cast<QLabel*>(one);
+            const auto* button = qobject_cast<QAbstractButton*>(one);
+            if (label && label->isVisible() && label->buddy())
+                reach(label->text(), label->buddy());
+            else if (button && button->isVisible())
+                reach(button->text(), button);
+        }
+        for (auto* one : page().findChildren<QWidget*>()) {
+            if (!keys.contains(one->objectName()))
+                continue;
+            const auto name = one->objectName().toStdString();
+            EXPECT_TRUE(one->focusPolicy() & Qt::TabFocus) << name;
+            EXPECT_FALSE(QAccessible::queryAccessibleInterface(one)->text(QAccessible::Name).isEmpty())
+                << name;
+            EXPECT_TRUE(reached.contains(one)) << name;
+        }
+    }
+}
+
+} // namespace
+} // namespace ridelog
