@@ -20,6 +20,8 @@ PreferencesController::PreferencesController(Defaults& defaults) : _defaults(def
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(_pages, 1);
     _pages->addTab(makeGeneralPage(), tr("&General"));
+    _pages->addTab(makePulsePage(), tr("&Pulse"));
+    _pages->addTab(makeDevicePage(), tr("De&vice"));
     auto* closeButton = new QPushButton(tr("C&lose"));
     // Return in a field is the field's.
     closeButton->setAutoDefault(false);

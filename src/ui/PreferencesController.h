@@ -24,6 +24,8 @@ public:
 
 private:
     QWidget* makeGeneralPage();
+    QWidget* makePulsePage();
+    QWidget* makeDevicePage();
 
     Defaults& _defaults;
     QTabWidget* _pages;

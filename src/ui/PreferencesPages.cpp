@@ -10,12 +10,15 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QSpinBox>
 
 namespace ridelog {
 namespace {
 
 constexpr int mostDays = 365;
+constexpr int mostBeats = 250; // no heart beats faster
 
 QSpinBox* numberField(const QString& name, int least, int most)
 {
@@ -61,6 +64,54 @@ QWidget* PreferencesController::makeGeneralPage()
         return _defaults.valueForKey(DefaultsKeys::language);
     }));
     page->addHint(tr("Counts from the next start on."));
+    page->addResetButton();
+    return page;
+}
+
+QWidget* PreferencesController::makePulsePage()
+{
+    auto* page = new PreferencesPage(_defaults);
+    auto* least = numberField(tr("Lowest pulse of the range"), 0, mostBeats);
+    auto* most = numberField(tr("Highest pulse of the range"), 0, mostBeats);
+    // One limit takes the other along before it would pass it.
+    connect(least, &QSpinBox::valueChanged, this, [this](int pulse) {
+        if (pulse > _defaults.integerForKey(DefaultsKeys::pulseMaxPulse))
+            _defaults.setValue(DefaultsKeys::pulseMaxPulse, pulse);
+    });
+    connect(most, &QSpinBox::valueChanged, this, [this](int pulse) {
+        if (pulse < _defaults.integerForKey(DefaultsKeys::pulseMinPulse))
+            _defaults.setValue(DefaultsKeys::pulseMinPulse, pulse);
+    });
+    auto* range = new QHBoxLayout;
+    range->addWidget(page->tied(least, DefaultsKeys::pulseMinPulse));
+    auto* to = new QLabel(tr("&to"));
+    to->setBuddy(most);
+    range->addWidget(to);
+    range->addWidget(page->tied(most, DefaultsKeys::pulseMaxPulse));
+    range->addWidget(new QLabel(tr("beats per minute")));
+    range->addStretch();
+    auto* label = new QLabel(tr("&Range:"));
+    label->setBuddy(least);
+    auto& form = page->form();
+    form.addRow(label, range);
+
+    form.addRow(tr("Zones:"), page->tied(new QCheckBox(tr("Draw them &behind the pulse")),
+                                         DefaultsKeys::pulseDrawPulseRange));
+    auto* gradient = new QCheckBox(tr("&Fade those outside the range"));
+    enableWhile(*gradient, _defaults, DefaultsKeys::pulseDrawPulseRange);
+    form.addRow(QString(), page->tied(gradient, DefaultsKeys::pulseUseGradient));
+    page->addResetButton();
+    return page;
+}
+
+QWidget* PreferencesController::makeDevicePage()
+{
+    auto* page = new PreferencesPage(_defaults);
+    page->form().addRow(tr("Serial line:"),
+                        page->tied(new QCheckBox(tr("&Alternate transfer settings (two stop bits)")),
+                                   DefaultsKeys::useAlternateTransferSettings));
+    page->addHint(
+        tr("Try them when what arrives is no dump of the device. They count from the next transfer on."));
     page->addResetButton();
     return page;
 }

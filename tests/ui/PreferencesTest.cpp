@@ -61,9 +61,12 @@ protected:
         ADD_FAILURE() << "no button " << text;
     }
 
-    const QStringList boxes{DefaultsKeys::saveRawData, DefaultsKeys::automaticCheck};
-    const QStringList keys = boxes + QStringList{DefaultsKeys::useMiles, DefaultsKeys::language,
-                                                 DefaultsKeys::checkForUpdateAfterDays};
+    const QStringList boxes{DefaultsKeys::saveRawData, DefaultsKeys::automaticCheck,
+                            DefaultsKeys::pulseDrawPulseRange, DefaultsKeys::pulseUseGradient,
+                            DefaultsKeys::useAlternateTransferSettings};
+    const QStringList keys =
+        boxes + QStringList{DefaultsKeys::useMiles, DefaultsKeys::language, DefaultsKeys::pulseMinPulse,
+                            DefaultsKeys::pulseMaxPulse, DefaultsKeys::checkForUpdateAfterDays};
 };
 
 TEST_F(Preferences, BoxesAndListsFollowTheirKeysAndTheKeysThem)
@@ -99,7 +102,9 @@ TEST_F(Preferences, NumbersFollowTheirKeysAndTheKeysThem)
     open();
     defaults->setValue(DefaultsKeys::automaticCheck, true);
     const std::tuple<QString, const char*, int> typed[] = {{DefaultsKeys::checkForUpdateAfterDays, "14", 14},
-                                                           {DefaultsKeys::checkForUpdateAfterDays, "1", 1}};
+                                                           {DefaultsKeys::checkForUpdateAfterDays, "1", 1},
+                                                           {DefaultsKeys::pulseMinPulse, "95", 95},
+                                                           {DefaultsKeys::pulseMaxPulse, "188", 188}};
     for (const auto& [key, text, number] : typed) {
         auto& field = control<QSpinBox>(key);
         type(field, text);
@@ -109,20 +114,25 @@ TEST_F(Preferences, NumbersFollowTheirKeysAndTheKeysThem)
         defaults->setValue(key, number + 5);
         EXPECT_EQ(field.value(), number + 5);
     }
+    auto& least = control<QSpinBox>(DefaultsKeys::pulseMinPulse);
+    auto& most = control<QSpinBox>(DefaultsKeys::pulseMaxPulse);
+    type(least, "200");
+    EXPECT_EQ(most.value(), 200) << "one limit takes the other along";
+    type(most, "120");
+    EXPECT_EQ(defaults->integerForKey(DefaultsKeys::pulseMinPulse), 120);
+
     EXPECT_TRUE(panel().isVisible()) << "Return is the field's";
-    auto& days = control<QSpinBox>(DefaultsKeys::checkForUpdateAfterDays);
-    days.selectAll();
-    QTest::keyClicks(&days, QStringLiteral("30"));
-    QTest::keyClick(&days, Qt::Key_Escape);
+    most.selectAll();
+    QTest::keyClicks(&most, QStringLiteral("180"));
+    QTest::keyClick(&most, Qt::Key_Escape);
     EXPECT_TRUE(panel().isHidden());
-    EXPECT_EQ(defaults->integerForKey(DefaultsKeys::checkForUpdateAfterDays), 30) << "what was typed counts";
+    EXPECT_EQ(defaults->integerForKey(DefaultsKeys::pulseMaxPulse), 180) << "what was typed counts";
     open();
-    days.selectAll();
-    QTest::keyClicks(&days, QStringLiteral("31"));
+    most.selectAll();
+    QTest::keyClicks(&most, QStringLiteral("175"));
     end();
     start();
-    EXPECT_EQ(defaults->integerForKey(DefaultsKeys::checkForUpdateAfterDays), 31)
-        << "also at the end of the program";
+    EXPECT_EQ(defaults->integerForKey(DefaultsKeys::pulseMaxPulse), 175) << "also at the end of the program";
 }
 
 TEST_F(Preferences, APageGoesBackToItsDefaultsAndNoOther)
@@ -143,20 +153,21 @@ TEST_F(Preferences, APageGoesBackToItsDefaultsAndNoOther)
     }
     EXPECT_TRUE(left.isEmpty()) << qPrintable(left.join(u' ')) << " have no control";
     EXPECT_TRUE(defaults->isStored(DefaultsKeys::drawerOpen));
-    EXPECT_EQ(control<QSpinBox>(DefaultsKeys::checkForUpdateAfterDays).value(), 7);
+    EXPECT_EQ(control<QSpinBox>(DefaultsKeys::pulseMaxPulse).value(), 170);
 }
 
 TEST_F(Preferences, NonsenseInTheSettingsIsSurvivedAndStays)
 {
-    write("settings", "[General]\ncheckForUpdateAfterDays=99999\nlanguage=xx, yy\nuseMiles=perhaps\n"
-                      "PreferencesPanel=here\n");
+    write("settings", "[General]\npulse_maxPulse=99999\npulse_minPulse=fast\ncheckForUpdateAfterDays=-3\n"
+                      "language=xx, yy\nuseMiles=perhaps\nPreferencesPanel=here\n");
     open();
-    EXPECT_EQ(control<QSpinBox>(DefaultsKeys::checkForUpdateAfterDays).value(), 365);
+    EXPECT_EQ(control<QSpinBox>(DefaultsKeys::pulseMaxPulse).value(), 250);
+    EXPECT_EQ(control<QSpinBox>(DefaultsKeys::pulseMinPulse).value(), 130);
+    EXPECT_EQ(control<QSpinBox>(DefaultsKeys::checkForUpdateAfterDays).value(), 1);
     EXPECT_EQ(control<QComboBox>(DefaultsKeys::language).currentIndex(), 0);
     EXPECT_EQ(control<QComboBox>(DefaultsKeys::useMiles).currentIndex(), 0);
     panel().close();
-    EXPECT_EQ(defaults->integerForKey(DefaultsKeys::checkForUpdateAfterDays), 99999)
-        << "nobody has changed it";
+    EXPECT_EQ(defaults->integerForKey(DefaultsKeys::pulseMaxPulse), 99999) << "nobody has changed it";
 }
 
 TEST_F(Preferences, AreOnePanelThatKnowsItsPlaceAndDoesNotKeepTheApplicationAlive)
