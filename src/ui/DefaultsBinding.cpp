@@ -1,6 +1,8 @@
 #include "ui/DefaultsBinding.h"
 
+#include "chart/ChartDrawing.h"
 #include "platform/Defaults.h"
+#include "ui/ColourButton.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -39,6 +41,19 @@ void bind(QSpinBox& field, Defaults& defaults, const QString& key)
     });
     QObject::connect(&field, &QSpinBox::valueChanged, &defaults,
                      [&defaults, key](int value) { defaults.setValue(key, value); });
+}
+
+void bind(ColourButton& button, Defaults& defaults, const QString& key)
+{
+    button.setObjectName(key);
+    follow(button, defaults, key, [&button, &defaults, key] {
+        button.setColour(chartColor(defaults.colourForKey(key).value_or(ColourComponents())));
+    });
+    QObject::connect(&button, &ColourButton::chosen, &defaults, [&defaults, key](const QColor& colour) {
+        // The components as they were chosen: those of QColor have 16 bits, or single precision.
+        defaults.setValue(key, ColourComponents{colour.red() / 255.0, colour.green() / 255.0,
+                                                colour.blue() / 255.0, colour.alpha() / 255.0});
+    });
 }
 
 void bind(QComboBox& box, Defaults& defaults, const QString& key, const std::function<QVariant()>& read)

@@ -14,6 +14,7 @@ QT_END_NAMESPACE
 
 namespace ridelog {
 
+class ColourButton;
 class Defaults;
 
 // Ties a control to a choice of the user, both ways: the control shows the value of the key, whoever changes
@@ -24,6 +25,8 @@ class Defaults;
 void bind(QCheckBox& box, Defaults& defaults, const QString& key);
 /// An integer; one beyond the field's range is shown as its nearest.
 void bind(QSpinBox& field, Defaults& defaults, const QString& key);
+/// A colour.
+void bind(ColourButton& button, Defaults& defaults, const QString& key);
 /// The data of one of the entries. `read` answers the value as such data; where no entry has it, the first is
 /// shown. To choose an entry without data removes what is stored.
 void bind(QComboBox& box, Defaults& defaults, const QString& key, const std::function<QVariant()>& read);

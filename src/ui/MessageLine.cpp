@@ -4,13 +4,18 @@
 
 namespace ridelog {
 
+void announce(QLabel& label)
+{
+    if (label.text().isEmpty())
+        return;
+    QAccessibleEvent announcement(&label, QAccessible::Alert);
+    QAccessible::updateAccessibility(&announcement);
+}
+
 void MessageLine::tell(const QString& message)
 {
     setText(message);
-    if (message.isEmpty())
-        return;
-    QAccessibleEvent announcement(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&announcement);
+    announce(*this);
 }
 
 } // namespace ridelog

@@ -4,6 +4,9 @@
 
 namespace ridelog {
 
+/// Has what the label says read out to those who do not see it.
+void announce(QLabel& label);
+
 /// What has just happened, in words, at the foot of a window.
 class MessageLine : public ElidedLabel {
     Q_OBJECT

@@ -3,6 +3,7 @@
 #include <QDialog>
 
 QT_BEGIN_NAMESPACE
+class QLabel;
 class QTabWidget;
 QT_END_NAMESPACE
 
@@ -21,14 +22,19 @@ public:
     ~PreferencesController() override;
 
     QTabWidget& pages() { return *_pages; }
+    /// What is wrong with what was typed last, in words.
+    QString message() const;
 
 private:
+    void showMessage(const QString& message);
     QWidget* makeGeneralPage();
+    QWidget* makeChartPage();
     QWidget* makePulsePage();
     QWidget* makeDevicePage();
 
     Defaults& _defaults;
     QTabWidget* _pages;
+    QLabel* _message;
 };
 
 } // namespace ridelog

@@ -24,16 +24,22 @@ void PreferencesPage::addHint(const QString& text)
     _form->addRow(QString(), hint);
 }
 
-void PreferencesPage::addResetButton()
+QPushButton* PreferencesPage::makeResetButton(const QString& text, const QStringList& keys)
 {
-    auto* button = new QPushButton(tr("Reset to &Defaults"));
+    auto* button = new QPushButton(text);
     // Return in a field is the field's.
     button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, [this] {
-        for (const auto& key : _keys)
+    connect(button, &QPushButton::clicked, this, [this, keys] {
+        for (const auto& key : keys)
             _defaults.remove(key);
     });
-    static_cast<QVBoxLayout*>(layout())->addWidget(button, 0, Qt::AlignRight);
+    return button;
+}
+
+void PreferencesPage::addResetButton()
+{
+    auto* rows = static_cast<QVBoxLayout*>(layout());
+    rows->addWidget(makeResetButton(tr("Reset to &Defaults"), _keys), 0, Qt::AlignRight);
 }
 
 } // namespace ridelog

@@ -9,6 +9,7 @@
 
 QT_BEGIN_NAMESPACE
 class QFormLayout;
+class QPushButton;
 QT_END_NAMESPACE
 
 namespace ridelog {
@@ -30,12 +31,16 @@ public:
     Control* tied(Control* control, const QString& key, More&&... more)
     {
         bind(*control, _defaults, key, std::forward<More>(more)...);
-        _keys << key;
+        addKeys({key});
         return control;
     }
+    /// Choices of this page whose control is tied to them already.
+    void addKeys(const QStringList& keys) { _keys << keys; }
     /// What there is to know of the row above.
     void addHint(const QString& text);
-    /// Gives up what the user has stored. The page is complete then: the keys come to the button last.
+    /// Gives up what the user has stored under these keys.
+    QPushButton* makeResetButton(const QString& text, const QStringList& keys);
+    /// For the whole page, which is complete then: the keys come to it last.
     void addResetButton();
 
 private:

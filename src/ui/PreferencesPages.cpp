@@ -3,6 +3,8 @@
 
 #include "library/DefaultsKeys.h"
 #include "platform/Defaults.h"
+#include "ui/AltitudeRange.h"
+#include "ui/ColourButton.h"
 #include "ui/Languages.h"
 #include "ui/PreferencesController.h"
 #include "ui/PreferencesPage.h"
@@ -10,6 +12,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
+#include <QGridLayout>
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSpinBox>
@@ -64,6 +68,46 @@ QWidget* PreferencesController::makeGeneralPage()
         return _defaults.valueForKey(DefaultsKeys::language);
     }));
     page->addHint(tr("Counts from the next start on."));
+    page->addResetButton();
+    return page;
+}
+
+QWidget* PreferencesController::makeChartPage()
+{
+    auto* page = new PreferencesPage(_defaults);
+    auto* group = new QGroupBox(tr("Colours"));
+    auto* grid = new QGridLayout(group);
+    QStringList keys;
+    const auto add = [&](int row, int column, const QString& text, const QString& question,
+                         const QString& key) {
+        auto* label = new QLabel(text);
+        auto* button = page->tied(new ColourButton(question), key);
+        label->setBuddy(button);
+        grid->addWidget(label, row, column);
+        grid->addWidget(button, row, column + 1);
+        keys << key;
+    };
+    using namespace DefaultsKeys;
+    add(0, 0, tr("Al&titude:"), tr("Colour of the Altitude"), colorAltitude);
+    add(1, 0, tr("&Speed:"), tr("Colour of the Speed"), colorSpeed);
+    add(2, 0, tr("P&ulse:"), tr("Colour of the Pulse"), colorPulse);
+    add(0, 3, tr("&Below the pulse range:"), tr("Colour below the Pulse Range"), pulseBelowColor);
+    add(1, 3, tr("&Within the pulse range:"), tr("Colour within the Pulse Range"), pulseInColor);
+    add(2, 3, tr("Ab&ove the pulse range:"), tr("Colour above the Pulse Range"), pulseAboveColor);
+    grid->setColumnMinimumWidth(2, 24);
+    grid->setColumnStretch(5, 1);
+    grid->addWidget(page->makeResetButton(tr("&Reset Colours"), keys), 3, 0, 1, -1, Qt::AlignRight);
+    page->form().addRow(group);
+
+    page->form().addRow(page->tied(new QCheckBox(tr("Speed has an a&xis of its own beside another series")),
+                                   DefaultsKeys::speed2ndAxis));
+    auto* range = new AltitudeRange(_defaults);
+    connect(range, &AltitudeRange::edited, this, &PreferencesController::showMessage);
+    page->addKeys({DefaultsKeys::useManualRange, DefaultsKeys::minRange, DefaultsKeys::maxRange});
+    auto* line = new QHBoxLayout;
+    line->addWidget(range);
+    line->addStretch();
+    page->form().addRow(line);
     page->addResetButton();
     return page;
 }

@@ -1,7 +1,9 @@
 #include "tests/ui/TourWindow.h"
+#include "ui/ColourButton.h"
 #include "ui/PreferencesController.h"
 
 #include <QAccessible>
+#include <QColorDialog>
 #include <QSet>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -52,6 +54,17 @@ protected:
         QTest::keyClicks(&field, QString::fromLatin1(text));
         QTest::keyClick(&field, Qt::Key_Return);
     }
+    /// Presses the button and chooses the colour.
+    void chooseColour(ColourButton& button, const QColor& colour)
+    {
+        question.clear();
+        whenAsked<QColorDialog>([colour](QColorDialog& dialog) {
+            dialog.setCurrentColor(colour);
+            dialog.accept();
+        });
+        click(button);
+        EXPECT_TRUE(eventually([&] { return question == button.accessibleName(); }));
+    }
     void press(const char* text)
     {
         for (auto* button : page().findChildren<QAbstractButton*>()) {
@@ -61,12 +74,24 @@ protected:
         ADD_FAILURE() << "no button " << text;
     }
 
-    const QStringList boxes{DefaultsKeys::saveRawData, DefaultsKeys::automaticCheck,
-                            DefaultsKeys::pulseDrawPulseRange, DefaultsKeys::pulseUseGradient,
+    const QStringList colours{DefaultsKeys::colorAltitude, DefaultsKeys::colorSpeed,
+                              DefaultsKeys::colorPulse,    DefaultsKeys::pulseBelowColor,
+                              DefaultsKeys::pulseInColor,  DefaultsKeys::pulseAboveColor};
+    const QStringList boxes{DefaultsKeys::saveRawData,
+                            DefaultsKeys::automaticCheck,
+                            DefaultsKeys::speed2ndAxis,
+                            DefaultsKeys::useManualRange,
+                            DefaultsKeys::pulseDrawPulseRange,
+                            DefaultsKeys::pulseUseGradient,
                             DefaultsKeys::useAlternateTransferSettings};
-    const QStringList keys =
-        boxes + QStringList{DefaultsKeys::useMiles, DefaultsKeys::language, DefaultsKeys::pulseMinPulse,
-                            DefaultsKeys::pulseMaxPulse, DefaultsKeys::checkForUpdateAfterDays};
+    const QStringList keys = boxes + colours +
+                             QStringList{DefaultsKeys::useMiles,
+                                         DefaultsKeys::language,
+                                         DefaultsKeys::minRange,
+                                         DefaultsKeys::maxRange,
+                                         DefaultsKeys::pulseMinPulse,
+                                         DefaultsKeys::pulseMaxPulse,
+                                         DefaultsKeys::checkForUpdateAfterDays};
 };
 
 TEST_F(Preferences, BoxesAndListsFollowTheirKeysAndTheKeysThem)
@@ -135,6 +160,41 @@ TEST_F(Preferences, NumbersFollowTheirKeysAndTheKeysThem)
     EXPECT_EQ(defaults->integerForKey(DefaultsKeys::pulseMaxPulse), 175) << "also at the end of the program";
 }
 
+TEST_F(Preferences, WhatIsChosenForChartsShowsInAnOpenOneAtOnce)
+{
+    auto& shown = TourWindow::open(tourThrough({500, 600, 550}));
+    const auto& settings = shown.chart().settings();
+    open();
+    for (const auto& key : colours) {
+        auto& button = control<ColourButton>(key);
+        chooseColour(button, QColor(255, 128, 0, 204));
+        EXPECT_EQ(defaults->colourForKey(key), (ColourComponents{1, 128 / 255.0, 0, 0.8})) << qPrintable(key);
+        EXPECT_EQ(button.accessibleDescription(), QStringLiteral("#ff8000"));
+    }
+    EXPECT_EQ(settings.speedColor, (ColourComponents{1, 128 / 255.0, 0, 0.8}));
+    defaults->setValue(DefaultsKeys::colorAltitude, ColourComponents{1, 0, 0, 1});
+    EXPECT_EQ(control<ColourButton>(DefaultsKeys::colorAltitude).colour(), QColor(Qt::red));
+
+    defaults->setValue(DefaultsKeys::useMiles, true);
+    defaults->setValue(DefaultsKeys::useManualRange, true);
+    type(control<QLineEdit>(DefaultsKeys::maxRange), "3280.8399");
+    EXPECT_NEAR(static_cast<double>(settings.maxRange), 1000, 0.001);
+    EXPECT_EQ(shown.maxRangeTextField().text(), QStringLiteral("3280.8"));
+    type(control<QLineEdit>(DefaultsKeys::minRange), "deep");
+    EXPECT_TRUE(panel().message().startsWith(QStringLiteral("“deep” is no altitude: ")));
+    EXPECT_TRUE(shown.message().isEmpty());
+    defaults->setValue(DefaultsKeys::speed2ndAxis, false);
+    EXPECT_FALSE(panel().message().isEmpty()) << "a click elsewhere does not take it away";
+    type(control<QLineEdit>(DefaultsKeys::minRange), "0");
+    EXPECT_TRUE(panel().message().isEmpty());
+
+    press("Reset Colours");
+    for (const auto& key : colours)
+        EXPECT_FALSE(defaults->isStored(key)) << qPrintable(key);
+    EXPECT_EQ(settings.altitudeColor, (ColourComponents{0, 0, 1, 1}));
+    EXPECT_TRUE(settings.useManualRange) << "it is no colour";
+}
+
 TEST_F(Preferences, APageGoesBackToItsDefaultsAndNoOther)
 {
     open();
@@ -158,14 +218,17 @@ TEST_F(Preferences, APageGoesBackToItsDefaultsAndNoOther)
 
 TEST_F(Preferences, NonsenseInTheSettingsIsSurvivedAndStays)
 {
-    write("settings", "[General]\npulse_maxPulse=99999\npulse_minPulse=fast\ncheckForUpdateAfterDays=-3\n"
-                      "language=xx, yy\nuseMiles=perhaps\nPreferencesPanel=here\n");
+    write("settings", "[General]\npulse_maxPulse=99999\npulse_minPulse=fast\ncolor_speed=green\n"
+                      "checkForUpdateAfterDays=-3\nlanguage=xx, yy\nuseMiles=perhaps\nminRange=1e300\n"
+                      "PreferencesPanel=here\n");
     open();
     EXPECT_EQ(control<QSpinBox>(DefaultsKeys::pulseMaxPulse).value(), 250);
     EXPECT_EQ(control<QSpinBox>(DefaultsKeys::pulseMinPulse).value(), 130);
+    EXPECT_EQ(control<ColourButton>(DefaultsKeys::colorSpeed).colour(), QColor(Qt::green));
     EXPECT_EQ(control<QSpinBox>(DefaultsKeys::checkForUpdateAfterDays).value(), 1);
     EXPECT_EQ(control<QComboBox>(DefaultsKeys::language).currentIndex(), 0);
     EXPECT_EQ(control<QComboBox>(DefaultsKeys::useMiles).currentIndex(), 0);
+    EXPECT_EQ(control<QLineEdit>(DefaultsKeys::minRange).text(), QStringLiteral("0"));
     panel().close();
     EXPECT_EQ(defaults->integerForKey(DefaultsKeys::pulseMaxPulse), 99999) << "nobody has changed it";
 }
@@ -224,7 +287,8 @@ TEST_F(Preferences, EachControlHasALetterOfItsOwnANameAndATabStop)
             EXPECT_TRUE(one->focusPolicy() & Qt::TabFocus) << name;
             EXPECT_FALSE(QAccessible::queryAccessibleInterface(one)->text(QAccessible::Name).isEmpty())
                 << name;
-            EXPECT_TRUE(reached.contains(one)) << name;
+            // From the box one comes to the limits of the altitude.
+            EXPECT_TRUE(reached.contains(one) || qobject_cast<QLineEdit*>(one)) << name;
         }
     }
 }
