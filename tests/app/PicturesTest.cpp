@@ -138,6 +138,30 @@ TEST_F(Pictures, TourWindow)
     show({}, "ctrl+2", darkDesktop, QStringLiteral("tour-window-dark.png"));
 }
 
+TEST_F(Pictures, Preferences)
+{
+    const auto show = [this](const QStringList& variables) {
+        setUp("drawerOpen=false\nuseManualRange=true\n");
+        start({demo}, variables);
+        ASSERT_TRUE(isInFront("Demo — ridelog"));
+        desktop.press("ctrl+comma");
+        ASSERT_TRUE(isInFront("Preferences — ridelog"));
+    };
+    const auto takePage = [this](const char* keys, const char* name) {
+        desktop.press(keys);
+        take(QString::fromLatin1(name), {480, 360});
+    };
+    show({});
+    takePage("alt+g", "preferences-general.png");
+    takePage("alt+c", "preferences-chart.png");
+    takePage("alt+p", "preferences-pulse.png");
+    takePage("alt+v", "preferences-device.png");
+    end();
+    write("kdeglobals", darkColours);
+    show(darkDesktop);
+    takePage("alt+c", "preferences-dark.png");
+}
+
 TEST_F(Pictures, EmptyDocument)
 {
     setUp("drawerOpen=false\n");
