@@ -181,7 +181,7 @@ TEST_F(Preferences, WhatIsChosenForChartsShowsInAnOpenOneAtOnce)
     EXPECT_NEAR(static_cast<double>(settings.maxRange), 1000, 0.001);
     EXPECT_EQ(shown.maxRangeTextField().text(), QStringLiteral("3280.8"));
     type(control<QLineEdit>(DefaultsKeys::minRange), "deep");
-    EXPECT_TRUE(panel().message().startsWith(QStringLiteral("“deep” is no altitude: ")));
+    EXPECT_TRUE(panel().message().startsWith(QStringLiteral("“deep” is no altitude. ")));
     EXPECT_TRUE(shown.message().isEmpty());
     defaults->setValue(DefaultsKeys::speed2ndAxis, false);
     EXPECT_FALSE(panel().message().isEmpty()) << "a click elsewhere does not take it away";
