@@ -11,21 +11,6 @@ namespace {
 using Column = TextTable::Column;
 constexpr auto left = TextTable::Align::left;
 
-QString titleOf(Period period, QDate day, WeekRule weekRule)
-{
-    switch (period) {
-    case Period::year:
-        return QString::number(day.year());
-    case Period::month:
-        return QStringLiteral("%1 %2").arg(QLocale::c().standaloneMonthName(day.month())).arg(day.year());
-    case Period::week:
-        return QStringLiteral("Week %1, %2").arg(weekRule.weekOfYear(day)).arg(day.year());
-    case Period::all:
-        break;
-    }
-    return QStringLiteral("All");
-}
-
 QString text(const std::optional<QDateTime>& date)
 {
     return date ? date->toString(QStringLiteral("yyyy-MM-dd")) : QStringLiteral("–");
@@ -54,7 +39,7 @@ QString statsText(OdoStat& stat, const ReadableUnits& units)
 {
     QList columns{Column{.align = left}};
     for (const auto period : allPeriods)
-        columns << Column{titleOf(period, stat.date().date(), stat.weekRule())};
+        columns << Column{periodTitle(period, stat.date().date(), stat.weekRule(), QLocale::c())};
     columns << Column{.align = left, .gap = 1};
 
     TextTable table(columns);

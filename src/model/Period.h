@@ -3,6 +3,8 @@
 #include "platform/WeekRule.h"
 
 #include <QDate>
+#include <QLocale>
+#include <QString>
 
 #include <array>
 
@@ -29,5 +31,8 @@ private:
     int _month;
     int _week;
 };
+
+/// The period of this day in words, as "March 2007" and "Week 11, 2007", with the names of the locale.
+QString periodTitle(Period period, QDate day, WeekRule weekRule, const QLocale& locale);
 
 } // namespace ridelog

@@ -97,5 +97,18 @@ TEST(PeriodParts, AreYearsMonthsAndDays)
     EXPECT_EQ(days(Period::week)[7], QDate(2007, 12, 31));
 }
 
+TEST(PeriodTitle, NamesThePeriodOfADay)
+{
+    const auto title = [](Period period, Qt::DayOfWeek firstWeekday, const QLocale& locale) {
+        return periodTitle(period, QDate(2007, 12, 31), WeekRule{firstWeekday}, locale).toStdString();
+    };
+    EXPECT_EQ(title(Period::all, Qt::Monday, QLocale::c()), "All");
+    EXPECT_EQ(title(Period::year, Qt::Monday, QLocale::c()), "2007");
+    EXPECT_EQ(title(Period::month, Qt::Monday, QLocale::c()), "December 2007");
+    EXPECT_EQ(title(Period::month, Qt::Monday, QLocale(QLocale::German)), "Dezember 2007");
+    EXPECT_EQ(title(Period::week, Qt::Monday, QLocale::c()), "Week 1, 2007") << "of the year of the day";
+    EXPECT_EQ(title(Period::week, Qt::Sunday, QLocale::c()), "Week 1, 2007");
+}
+
 } // namespace
 } // namespace ridelog
