@@ -40,6 +40,14 @@ QDateTime fromFields(int year, int month, int day, int hour, int minute, int sec
     return QDateTime::fromSecsSinceEpoch(instant, zone);
 }
 
+QDateTime onDay(const QDateTime& date, QDate day)
+{
+    const auto time = date.time();
+    return fromFields(day.year(), day.month(), day.day(), time.hour(), time.minute(), time.second(),
+                      date.timeZone())
+        .addMSecs(time.msec());
+}
+
 QString text(const QDateTime& date)
 {
     const auto offsetMinutes = date.offsetFromUtc() / 60;

@@ -20,6 +20,9 @@ QDateTime now();
 /// the clocks skips is read with the offset before the change; of one that is repeated, the first is meant.
 QDateTime fromFields(int year, int month, int day, int hour, int minute, int second, const QTimeZone& zone);
 
+/// The same time of day on another day, in the same time zone; changes of the clocks are as for fromFields.
+QDateTime onDay(const QDateTime& date, QDate day);
+
 /// The stable text form "2007-03-10 08:00:00 +0100".
 QString text(const QDateTime& date);
 

@@ -60,5 +60,23 @@ TEST(CalendarDate, RealSecondsPassOverAChangeOfTheClocks)
               "2007-03-25 03:00:00 +0200");
 }
 
+TEST(CalendarDate, KeepsItsTimeOfDayOnAnotherDay)
+{
+    const auto moved = [](const char* zone, QDate from, QTime time, QDate to) {
+        const auto date = CalendarDate::fromFields(from.year(), from.month(), from.day(), time.hour(),
+                                                   time.minute(), time.second(), QTimeZone(zone))
+                              .addMSecs(time.msec());
+        const auto other = CalendarDate::onDay(date, to);
+        EXPECT_EQ(other.time().msec(), time.msec());
+        return CalendarDate::text(other).toStdString();
+    };
+    const QTime evening(21, 15, 7, 42);
+    EXPECT_EQ(moved("Europe/Berlin", {2007, 3, 24}, evening, {2007, 3, 31}), "2007-03-31 21:15:07 +0200");
+    EXPECT_EQ(moved("America/New_York", {2007, 11, 10}, evening, {2007, 11, 3}), "2007-11-03 21:15:07 -0400");
+    EXPECT_EQ(moved("Australia/Lord_Howe", {2007, 4, 1}, evening, {2007, 3, 1}), "2007-03-01 21:15:07 +1100");
+    EXPECT_EQ(moved("Europe/Berlin", {2007, 3, 18}, {2, 30}, {2007, 3, 25}), "2007-03-25 03:30:00 +0200");
+    EXPECT_EQ(moved("UTC", {2007, 12, 31}, {0, 0}, {2008, 1, 1}), "2008-01-01 00:00:00 +0000");
+}
+
 } // namespace
 } // namespace ridelog
