@@ -7,10 +7,8 @@
 #include "model/SeriesNames.h"
 
 #include <QFontMetricsF>
-#include <QPaintEngine>
 #include <QPainter>
 #include <QPolygonF>
-#include <QRawFont>
 
 #include <algorithm>
 #include <array>
@@ -19,9 +17,6 @@
 
 namespace ridelog {
 namespace {
-
-const QColor axisColor = Qt::red;
-const QColor labelColor = Qt::black;
 
 constexpr float ticLength = 5;
 constexpr float labelGap = 6; ///< between an axis and its labels
@@ -97,49 +92,12 @@ QList<QPolygonF> outlines(const QList<QPolygonF>& lines, float width)
 
 } // namespace
 
-QFont chartLabelFont()
-{
-    QFont font(
-        QStringList{QStringLiteral("Helvetica"), QStringLiteral("Liberation Sans"), QStringLiteral("Arial")});
-    font.setStyleHint(QFont::SansSerif);
-    font.setPixelSize(12);
-    return font;
-}
-
-bool hasChartLabelFont()
-{
-    return QRawFont::fromFont(chartLabelFont()).supportsCharacter(u'0');
-}
-
-ChartScaling::LabelMeasure chartLabelMeasure()
-{
-    return [metrics = QFontMetricsF(chartLabelFont())](const QString& label) {
-        return QSizeF(metrics.horizontalAdvance(label), metrics.height());
-    };
-}
-
-QColor chartColor(const ColourComponents& colour)
-{
-    const auto component = [](double value) { return static_cast<float>(std::clamp(value, 0.0, 1.0)); };
-    return QColor::fromRgbF(component(colour.red), component(colour.green), component(colour.blue),
-                            component(colour.alpha));
-}
-
-QColor colorByInterpolatingColor(const QColor& a, const QColor& withColor, int basedOnProgress,
-                                 int outOfPossibleSteps)
-{
-    const auto part = static_cast<float>(basedOnProgress) / static_cast<float>(outOfPossibleSteps);
-    const auto between = [part](float to, float from) { return from + (to - from) * part; };
-    return QColor::fromRgbF(between(a.redF(), withColor.redF()), between(a.greenF(), withColor.greenF()),
-                            between(a.blueF(), withColor.blueF()), between(a.alphaF(), withColor.alphaF()));
-}
-
 ChartDrawing::ChartDrawing(QPainter& painter, const ChartScaling::Chart& chart,
                            std::optional<float> indicator)
     : _painter(painter),
       _scaling(chart),
       _indicator(indicator),
-      _seriesColor(axisColor),
+      _seriesColor(chartAxisColor),
       _labelDescent(QFontMetricsF(chartLabelFont()).descent())
 {
 }
@@ -249,7 +207,7 @@ void ChartDrawing::drawChartForName(const QString& name, const std::vector<float
                         mostPointsInColumn * pixelsPerUnit() * static_cast<double>(chart.width);
     _painter.save();
     _painter.setClipRect(reach, Qt::IntersectClip);
-    if (isLong && hasPixels())
+    if (isLong && paintsPixels(_painter))
         drawColumns(lines);
     else
         drawLines(isLong ? outlines(lines, chart.width) : lines);
@@ -278,7 +236,7 @@ void ChartDrawing::drawLines(const QList<QPolygonF>& lines)
     for (const auto& line : lines) {
         // A line of more than a pixel's width is filled as one area, which takes the longer the more often it
         // crosses itself.
-        if (hasPixels() && pixelsPerUnit() > 1)
+        if (paintsPixels(_painter) && pixelsPerUnit() > 1)
             drawStretches(line);
         else
             _painter.drawPolyline(line);
@@ -370,8 +328,8 @@ void ChartDrawing::drawGradient(const QRectF& rect, const QColor& startColor, co
     const QRectF area(rect.x(), height - rect.y() - steps + 0.5, rect.width(), steps);
     if (startColor == endColor) {
         if (steps > 0)
-            fillCrisp(area.intersected(QRectF(area.x(), 0, area.width(), height)), startColor);
-    } else if (!hasPixels()) {
+            fillCrisp(_painter, area.intersected(QRectF(area.x(), 0, area.width(), height)), startColor);
+    } else if (!paintsPixels(_painter)) {
         QLinearGradient gradient(area.bottomLeft(), area.topLeft());
         gradient.setColorAt(0, startColor);
         gradient.setColorAt(1, endColor);
@@ -382,7 +340,7 @@ void ChartDrawing::drawGradient(const QRectF& rect, const QColor& startColor, co
         const auto last = static_cast<int>(std::min<double>(steps, std::max(height - rect.y() + 2, 0.0)));
         for (int line = first; line < last; ++line) {
             const auto color = colorByInterpolatingColor(endColor, startColor, line, steps);
-            fillCrisp(QRectF(rect.x(), area.bottom() - line - 1, rect.width(), 1), color);
+            fillCrisp(_painter, QRectF(rect.x(), area.bottom() - line - 1, rect.width(), 1), color);
         }
     }
 }
@@ -399,19 +357,20 @@ void ChartDrawing::drawXIndicator()
 
 void ChartDrawing::drawHorizontal(float fromX, float toX, float y)
 {
-    fillCrisp(QRectF(QPointF(fromX, down(y) - 0.5), QPointF(toX, down(y) + 0.5)), axisColor);
+    fillCrisp(_painter, QRectF(QPointF(fromX, down(y) - 0.5), QPointF(toX, down(y) + 0.5)), chartAxisColor);
 }
 
 void ChartDrawing::drawVertical(float x, float fromY, float toY, float width)
 {
-    fillCrisp(QRectF(QPointF(x - width / 2, down(toY)), QPointF(x + width / 2, down(fromY))), axisColor);
+    fillCrisp(_painter, QRectF(QPointF(x - width / 2, down(toY)), QPointF(x + width / 2, down(fromY))),
+              chartAxisColor);
 }
 
 /// `bottom` is the lower edge of the label's box; a label wider than its room is made narrower.
 void ChartDrawing::drawLabel(const QString& label, QSizeF size, float left, float bottom, float room)
 {
     _painter.save();
-    _painter.setPen(labelColor);
+    _painter.setPen(chartLabelColor);
     _painter.translate(left, down(bottom) - _labelDescent);
     if (size.width() > static_cast<double>(room) && room > 0)
         _painter.scale(static_cast<double>(room) / size.width(), 1);
@@ -423,23 +382,6 @@ double ChartDrawing::pixelsPerUnit() const
 {
     const auto scale = std::abs(_painter.deviceTransform().m11());
     return scale > 0 ? scale : 1.0;
-}
-
-bool ChartDrawing::hasPixels() const
-{
-    return _painter.paintEngine()->type() == QPaintEngine::Raster &&
-           _painter.deviceTransform().type() <= QTransform::TxScale;
-}
-
-/// On the grid of pixels, so that a line is neither blurred nor lost, and each as wide as the others.
-void ChartDrawing::fillCrisp(const QRectF& rect, const QColor& color)
-{
-    const auto toDevice = _painter.deviceTransform();
-    const auto onDevice = toDevice.mapRect(rect);
-    const auto length = [](double from, double to) { return std::max(std::round(to - from), 1.0); };
-    const QRectF onGrid(std::round(onDevice.left()), std::round(onDevice.top()),
-                        length(onDevice.left(), onDevice.right()), length(onDevice.top(), onDevice.bottom()));
-    _painter.fillRect(toDevice.inverted().mapRect(onGrid), color);
 }
 
 } // namespace ridelog

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "chart/ChartScaling.h"
+#include "chart/ChartPaper.h"
 
-#include <QColor>
-#include <QFont>
 #include <QPolygonF>
 
 #include <optional>
@@ -11,20 +9,6 @@
 QT_FORWARD_DECLARE_CLASS(QPainter)
 
 namespace ridelog {
-
-/// The font of all labels of a chart, 12 view units high.
-QFont chartLabelFont();
-/// Whether there is a font with what labels consist of; without one they are empty boxes.
-bool hasChartLabelFont();
-/// Its measure, without a device: the same for a screen, a picture and a printer.
-ChartScaling::LabelMeasure chartLabelMeasure();
-
-QColor chartColor(const ColourComponents& colour);
-
-/// The colour on the way from `withColor` to `a`, `basedOnProgress` of `outOfPossibleSteps` behind
-/// `withColor`.
-QColor colorByInterpolatingColor(const QColor& a, const QColor& withColor, int basedOnProgress,
-                                 int outOfPossibleSteps);
 
 /// Draws a chart: one pass. The painter's origin is the upper left corner of the chart, one view unit is one
 /// of its units; axes and tics are laid on the grid of the device's units (of a screen, its pixels). Returns
@@ -53,13 +37,11 @@ private:
     void drawGradient(const QRectF& rect, const QColor& startColor, const QColor& endColor);
     void drawXIndicator();
 
-    void fillCrisp(const QRectF& rect, const QColor& color);
     void drawHorizontal(float fromX, float toX, float y);
     void drawVertical(float x, float fromY, float toY, float width = 1);
     void drawLabel(const QString& label, QSizeF size, float left, float bottom, float room);
     float down(float y) const { return _scaling.chart().height - y; }
     double pixelsPerUnit() const;
-    bool hasPixels() const;
 
     QPainter& _painter;
     ChartScaling _scaling;

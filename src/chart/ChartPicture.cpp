@@ -22,22 +22,16 @@ constexpr int unitsPerInch = 96;
 /// Points of a PDF page in an inch: one for a view unit.
 constexpr int pointsPerInch = 72;
 
-QSize sizeOf(const ChartScaling::Chart& chart)
-{
-    return {static_cast<int>(chart.width), static_cast<int>(chart.height)};
-}
-
-QString drawPoints(QBuffer& out, const ChartScaling::Chart& chart, std::optional<float> indicator,
-                   const char* format, int quality)
+QString drawPoints(QBuffer& out, const PictureContent& content, const char* format, int quality)
 {
     auto tooLarge = QStringLiteral("there is not enough memory for a picture of this size");
-    QImage image(sizeOf(chart), QImage::Format_RGB32);
+    QImage image(content.size, QImage::Format_RGB32);
     if (image.isNull())
         return tooLarge;
     try {
         {
             QPainter painter(&image);
-            ChartDrawing(painter, chart, indicator).draw();
+            content.draw(painter);
         }
         return image.save(&out, format, quality) ? QString()
                                                  : QStringLiteral("the picture cannot be encoded");
@@ -46,28 +40,28 @@ QString drawPoints(QBuffer& out, const ChartScaling::Chart& chart, std::optional
     }
 }
 
-QString drawSvg(QBuffer& out, const ChartScaling::Chart& chart, std::optional<float> indicator)
+QString drawSvg(QBuffer& out, const PictureContent& content)
 {
     QSvgGenerator generator;
     generator.setOutputDevice(&out);
-    generator.setSize(sizeOf(chart));
-    generator.setViewBox(QRect(QPoint(), sizeOf(chart)));
+    generator.setSize(content.size);
+    generator.setViewBox(QRect(QPoint(), content.size));
     generator.setResolution(unitsPerInch);
     generator.setTitle(QStringLiteral("ridelog"));
-    generator.setDescription(chart.showNames.join(QStringLiteral(", ")));
+    generator.setDescription(content.description);
     QPainter painter(&generator);
-    ChartDrawing(painter, chart, indicator).draw();
+    content.draw(painter);
     return {};
 }
 
-QString drawPdf(QBuffer& out, const ChartScaling::Chart& chart, std::optional<float> indicator)
+QString drawPdf(QBuffer& out, const PictureContent& content)
 {
     QPdfWriter writer(&out);
     writer.setResolution(pointsPerInch);
-    writer.setPageSize(QPageSize(QSizeF(sizeOf(chart)), QPageSize::Point, QString(), QPageSize::ExactMatch));
+    writer.setPageSize(QPageSize(QSizeF(content.size), QPageSize::Point, QString(), QPageSize::ExactMatch));
     writer.setPageMargins(QMarginsF());
     QPainter painter(&writer);
-    ChartDrawing(painter, chart, indicator).draw();
+    content.draw(painter);
     return {};
 }
 
@@ -79,23 +73,30 @@ QStringList chartPictureEndings()
             QStringLiteral("pdf")};
 }
 
-ChartPicture chartPicture(const ChartScaling::Chart& chart, std::optional<float> indicator,
-                          const QString& fileName)
+PictureContent chartContent(const ChartScaling::Chart& chart, std::optional<float> indicator)
 {
-    if (sizeOf(chart).isEmpty())
+    return {
+        .size = {static_cast<int>(chart.width), static_cast<int>(chart.height)},
+        .description = chart.showNames.join(QStringLiteral(", ")),
+        .draw = [chart, indicator](QPainter& painter) { ChartDrawing(painter, chart, indicator).draw(); }};
+}
+
+ChartPicture chartPicture(const PictureContent& content, const QString& fileName)
+{
+    if (content.size.isEmpty())
         return {{}, QStringLiteral("a picture is at least one unit wide and high")};
     QBuffer out;
     out.open(QIODevice::WriteOnly);
     const auto ending = QFileInfo(fileName).suffix().toLower();
     QString error;
     if (ending == u"jpg" || ending == u"jpeg")
-        error = drawPoints(out, chart, indicator, "JPEG", jpegQuality);
+        error = drawPoints(out, content, "JPEG", jpegQuality);
     else if (ending == u"png")
-        error = drawPoints(out, chart, indicator, "PNG", usualQuality);
+        error = drawPoints(out, content, "PNG", usualQuality);
     else if (ending == u"svg")
-        error = drawSvg(out, chart, indicator);
+        error = drawSvg(out, content);
     else if (ending == u"pdf")
-        error = drawPdf(out, chart, indicator);
+        error = drawPdf(out, content);
     else
         error =
             QStringLiteral("pictures end with .%1").arg(chartPictureEndings().join(QStringLiteral(", .")));

@@ -3,9 +3,13 @@
 #include "chart/ChartScaling.h"
 
 #include <QByteArray>
+#include <QSize>
 #include <QString>
 
+#include <functional>
 #include <optional>
+
+QT_FORWARD_DECLARE_CLASS(QPainter)
 
 namespace ridelog {
 
@@ -21,9 +25,17 @@ constexpr int largestChartPicture = 16'384;
 /// The picture types by the endings of their files: jpg, jpeg, png, svg, pdf.
 QStringList chartPictureEndings();
 
-/// Draws the chart, as wide and high as it is, in the type that the file's name ends with. A picture of
-/// points has one pixel for a view unit.
-ChartPicture chartPicture(const ChartScaling::Chart& chart, std::optional<float> indicator,
-                          const QString& fileName);
+/// What there is to be seen on a picture.
+struct PictureContent {
+    QSize size;          ///< view units
+    QString description; ///< in words, for the types that hold it
+    std::function<void(QPainter& painter)> draw;
+};
+
+/// A chart of series, as wide and high as it is; what it refers to has to outlive the content.
+PictureContent chartContent(const ChartScaling::Chart& chart, std::optional<float> indicator);
+
+/// Draws a picture of the type that the file's name ends with. One of points has one pixel for a view unit.
+ChartPicture chartPicture(const PictureContent& content, const QString& fileName);
 
 } // namespace ridelog

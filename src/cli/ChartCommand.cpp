@@ -106,7 +106,7 @@ ExitStatus drawPicture(const ChartScaling::Chart& chart, const QString& path)
         return fail(path, *reason);
     if (!hasChartLabelFont())
         return fail(path, QStringLiteral("there is no font for the labels (fontconfig finds none)"));
-    const auto picture = chartPicture(chart, std::nullopt, path);
+    const auto picture = chartPicture(chartContent(chart, std::nullopt), path);
     if (!picture.error.isEmpty())
         return fail(path, picture.error);
     if (const auto error = writeWholeFile(path, picture.bytes))

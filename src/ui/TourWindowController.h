@@ -26,7 +26,6 @@ class ElidedLabel;
 class MessageLine;
 class MyDocument;
 class SampleTableModel;
-class SaveChartPanel;
 class SegmentedControl;
 class TourSummaryView;
 
@@ -133,7 +132,6 @@ private:
 
     // Files and paper
     void saveChart();
-    void saveChartPanelDidEnd(const SaveChartPanel& panel);
     void print();
 
     ApplicationWindows& _windows;

@@ -257,7 +257,7 @@ TEST_F(Drawing, WhatIsCutOffKeepsItsSlopeAlsoInAPictureWithoutClips)
     const auto x = static_cast<double>(drawing->calcRealXValueFrom(501.0F / 250));
     EXPECT_GE(count(Qt::blue, QRectF(x - 2, 60, 5, 60)), 60);
     EXPECT_EQ(count(Qt::blue, QRectF(x + 5, 60, 100, 60)), 0);
-    const auto svg = chartPicture(drawing->chart(), {}, QStringLiteral("a.svg")).bytes;
+    const auto svg = chartPicture(chartContent(drawing->chart(), {}), QStringLiteral("a.svg")).bytes;
     const auto from = svg.indexOf("#0000ff");
     ASSERT_GE(from, 0);
     const auto points = svg.mid(svg.indexOf("points=\"", from) + 8);
@@ -389,16 +389,16 @@ TEST_F(Drawing, PicturesAreOfTheTypeThatTheirNameEndsWith)
     const std::pair<const char*, QByteArray> types[]{
         {"a.jpg", "\xff\xd8\xff"}, {"a.JPEG", "\xff\xd8\xff"}, {"a.png", "\x89PNG"}, {"a.pdf", "%PDF-"}};
     for (const auto& [name, begin] : types) {
-        const auto file = chartPicture(chart, {}, QString::fromLatin1(name));
+        const auto file = chartPicture(chartContent(chart, {}), QString::fromLatin1(name));
         EXPECT_TRUE(file.error.isEmpty()) << name;
         EXPECT_TRUE(file.bytes.startsWith(begin)) << name;
     }
-    const auto image = QImage::fromData(chartPicture(chart, {}, QStringLiteral("b.jpg")).bytes);
+    const auto image = QImage::fromData(chartPicture(chartContent(chart, {}), QStringLiteral("b.jpg")).bytes);
     EXPECT_EQ(image.size(), QSize(width, height));
-    const auto svg = chartPicture(chart, {}, QStringLiteral("a.svg")).bytes;
+    const auto svg = chartPicture(chartContent(chart, {}), QStringLiteral("a.svg")).bytes;
     EXPECT_TRUE(svg.contains("viewBox=\"0 0 400 200\""));
     EXPECT_TRUE(svg.contains("#0000ff"));
-    EXPECT_EQ(chartPicture(chart, {}, QStringLiteral("chart")).error,
+    EXPECT_EQ(chartPicture(chartContent(chart, {}), QStringLiteral("chart")).error,
               QStringLiteral("pictures end with .jpg, .jpeg, .png, .svg, .pdf"));
 }
 
