@@ -4,7 +4,7 @@
 #include "ui/AltitudeRange.h"
 #include "ui/ApplicationWindows.h"
 #include "ui/DescriptionEdit.h"
-#include "ui/SegmentedControl.h"
+#include "ui/MenuEntries.h"
 #include "ui/TourWindowController.h"
 #include "ui/UndoActions.h"
 #include "ui/WindowMenu.h"
@@ -19,38 +19,6 @@
 #include <QToolButton>
 
 namespace ridelog {
-namespace {
-
-QAction* addEntry(QMenu& menu, const QString& text, const QKeySequence& keys)
-{
-    auto* action = menu.addAction(text);
-    action->setShortcut(keys);
-    return action;
-}
-
-/// An entry that presses a button, and shows whether it is down.
-void addButtonEntry(QMenu& menu, const QString& text, QAbstractButton& button, const QKeySequence& keys = {})
-{
-    auto* action = addEntry(menu, text, keys);
-    action->setCheckable(true);
-    const auto show = [action, &button] { action->setChecked(button.isChecked()); };
-    QObject::connect(&menu, &QMenu::aboutToShow, action, show);
-    QObject::connect(action, &QAction::triggered, &button, [&button, show] {
-        button.click();
-        show();
-    });
-}
-
-/// An entry for each button of the control, with the shortcuts Ctrl+`first` and so on.
-void addSegments(QMenu& menu, const SegmentedControl& control, int first)
-{
-    for (int index = 0; index < control.count(); ++index)
-        addButtonEntry(menu, control.segment(index).text(), control.segment(index),
-                       Qt::CTRL | static_cast<Qt::Key>(first + index));
-    menu.addSeparator();
-}
-
-} // namespace
 
 void TourWindowController::makeActions()
 {

@@ -1,0 +1,37 @@
+#include "ui/MenuEntries.h"
+
+#include "ui/SegmentedControl.h"
+
+#include <QMenu>
+#include <QToolButton>
+
+namespace ridelog {
+
+QAction* addEntry(QMenu& menu, const QString& text, const QKeySequence& keys)
+{
+    auto* action = menu.addAction(text);
+    action->setShortcut(keys);
+    return action;
+}
+
+void addButtonEntry(QMenu& menu, const QString& text, QAbstractButton& button, const QKeySequence& keys)
+{
+    auto* action = addEntry(menu, text, keys);
+    action->setCheckable(true);
+    const auto show = [action, &button] { action->setChecked(button.isChecked()); };
+    QObject::connect(&menu, &QMenu::aboutToShow, action, show);
+    QObject::connect(action, &QAction::triggered, &button, [&button, show] {
+        button.click();
+        show();
+    });
+}
+
+void addSegments(QMenu& menu, const SegmentedControl& control, int first)
+{
+    for (int index = 0; index < control.count(); ++index)
+        addButtonEntry(menu, control.segment(index).text(), control.segment(index),
+                       Qt::CTRL | static_cast<Qt::Key>(first + index));
+    menu.addSeparator();
+}
+
+} // namespace ridelog

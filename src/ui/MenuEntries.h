@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QKeySequence>
+#include <QString>
+
+QT_BEGIN_NAMESPACE
+class QAbstractButton;
+class QAction;
+class QMenu;
+QT_END_NAMESPACE
+
+namespace ridelog {
+
+class SegmentedControl;
+
+QAction* addEntry(QMenu& menu, const QString& text, const QKeySequence& keys);
+/// An entry that presses a button, and shows whether it is down.
+void addButtonEntry(QMenu& menu, const QString& text, QAbstractButton& button, const QKeySequence& keys = {});
+/// An entry for each button of the control, with the shortcuts Ctrl+`first` and so on.
+void addSegments(QMenu& menu, const SegmentedControl& control, int first);
+
+} // namespace ridelog

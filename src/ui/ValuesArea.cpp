@@ -1,0 +1,44 @@
+#include "ui/ValuesArea.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QScrollBar>
+
+namespace ridelog {
+
+void ValuesArea::setContent(QWidget& content)
+{
+    setWidget(&content);
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void ValuesArea::showEvent(QShowEvent* event)
+{
+    QScrollArea::showEvent(event);
+    // Only what is shown has its style, and with it the room that it takes.
+    updateGeometry();
+}
+
+QSize ValuesArea::minimumSizeHint() const
+{
+    const auto width = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+    return {width + 2 * frameWidth(), QScrollArea::minimumSizeHint().height()};
+}
+
+ValueRow::ValueRow(QFormLayout& form, const QString& key) : _name(new QLabel), _field(new QLabel)
+{
+    _field->setObjectName(key);
+    _field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    _field->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    _name->setBuddy(_field);
+    form.addRow(_name, _field);
+}
+
+void ValueRow::show(const QString& name, const QString& text)
+{
+    _name->setText(name + u':');
+    _field->setText(text);
+}
+
+} // namespace ridelog
