@@ -81,7 +81,7 @@ std::vector<QWidget*> ApplicationWindows::openWindows() const
     std::vector<QWidget*> windows;
     for (auto* window : _mainWindows) {
         windows.push_back(window);
-        std::ranges::copy(window->tourWindows(), std::back_inserter(windows));
+        std::ranges::copy(window->furtherWindows(), std::back_inserter(windows));
     }
     return windows;
 }
@@ -121,7 +121,7 @@ MainWindowController* ApplicationWindows::windowOf(const MyDocument& document) c
 MainWindowController* ApplicationWindows::mainWindowOf(const QWidget* window) const
 {
     const auto found = std::ranges::find_if(_mainWindows, [window](auto* one) {
-        return one == window || std::ranges::count(one->tourWindows(), window);
+        return one == window || std::ranges::count(one->furtherWindows(), window);
     });
     return found == _mainWindows.end() ? nullptr : *found;
 }

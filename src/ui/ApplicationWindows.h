@@ -39,7 +39,7 @@ public:
     SimulatedDevice& simulatedDevice() { return _simulatedDevice; }
     /// In the order in which they were opened.
     std::vector<MainWindowController*> mainWindows() const;
-    /// Every main window, each followed by those of its tours.
+    /// Every main window, each followed by those of its tours and that of its statistics.
     std::vector<QWidget*> openWindows() const;
     StartWindow* startWindow() const { return _startWindow; }
 

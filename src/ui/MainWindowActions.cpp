@@ -69,7 +69,7 @@ void MainWindowController::makeActions()
     makeEditMenu();
     makeTourMenu();
     makeDeviceMenu();
-    menuBar()->addMenu(new WindowMenu(_windows, *this));
+    makeWindowMenu();
     makeHelpMenu();
     makeToolBar();
 }
@@ -178,6 +178,17 @@ void MainWindowController::makeDeviceMenu()
     connect(&_connectView->connectButton(), &QPushButton::clicked, this, &Window::connectToOdo);
 }
 
+void MainWindowController::makeWindowMenu()
+{
+    _statisticsAction = new QAction(tr("&Statistics"), this);
+    _statisticsAction->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_T);
+    connect(_statisticsAction, &QAction::triggered, this, [this] {
+        beginAction();
+        showStatWindow();
+    });
+    menuBar()->addMenu(new WindowMenu(_windows, *this, {_statisticsAction}));
+}
+
 void MainWindowController::makeHelpMenu()
 {
     auto& menu = *menuBar()->addMenu(tr("&Help"));
@@ -199,7 +210,7 @@ void MainWindowController::makeToolBar()
     bar.setToolButtonStyle(Qt::ToolButtonTextOnly);
     bar.setContextMenuPolicy(Qt::PreventContextMenu);
     _importAction->setIconText(tr("Import"));
-    bar.addActions({_transferButton, _importAction, _openTourAction});
+    bar.addActions({_transferButton, _importAction, _openTourAction, _statisticsAction});
     auto* space = new QWidget;
     space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar.addWidget(space);
@@ -225,11 +236,12 @@ void MainWindowController::fillRecentMenu()
 {
     _recentMenu->clear();
     const auto paths = _windows.controller().recentDocuments();
+    int number = 0;
     for (const auto& path : paths) {
         const QFileInfo file(path);
         const auto name =
             QStringLiteral("%1  (%2)").arg(file.fileName(), QDir::toNativeSeparators(file.path()));
-        auto* action = addNumberedEntry(*_recentMenu, name);
+        auto* action = addNumberedEntry(*_recentMenu, ++number, name);
         connect(action, &QAction::triggered, this, [this, path] { _windows.openDocument(path, this); });
     }
     if (paths.isEmpty())

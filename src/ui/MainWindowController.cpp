@@ -13,6 +13,7 @@
 #include "ui/EmptyDocumentView.h"
 #include "ui/FileDrop.h"
 #include "ui/MessageLine.h"
+#include "ui/StatWindowController.h"
 #include "ui/TourTableModel.h"
 #include "ui/TourTableView.h"
 #include "ui/TourWindowController.h"
@@ -152,6 +153,7 @@ MainWindowController::~MainWindowController()
         window->disconnect(this);
         delete window;
     }
+    delete _swc;
     // They speak to this window and to its list for as long as they live.
     delete _connectDrawer;
     delete _splitter;
@@ -326,6 +328,8 @@ void MainWindowController::showTitle()
     setWindowTitle(titleWithName(name) + placeOfMark);
     setWindowFilePath(_document.path());
     setWindowModified(_document.isChanged());
+    if (_swc)
+        _swc->setDocumentName(name);
     _revertAction->setEnabled(!_document.path().isEmpty());
 }
 

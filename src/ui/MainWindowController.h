@@ -33,6 +33,7 @@ class Defaults;
 class ElidedLabel;
 class MessageLine;
 class Sheet;
+class StatWindowController;
 class TourTableModel;
 class TourTableView;
 class TourWindowController;
@@ -76,6 +77,14 @@ public:
     /// The windows of the document's tours, in the order in which they were opened.
     const std::vector<TourWindowController*>& tourWindows() const { return _tourWindows; }
 
+    /// Shows the statistics of the document's tours: the same window each time.
+    void showStatWindow();
+    /// None before it is first shown.
+    StatWindowController* statWindow() const { return _swc; }
+
+    /// Those of its windows that are open beside this one.
+    std::vector<QWidget*> furtherWindows() const;
+
     // The transfer
 
     void startTransfer();
@@ -111,6 +120,7 @@ private:
     void makeEditMenu();
     void makeTourMenu();
     void makeDeviceMenu();
+    void makeWindowMenu();
     void makeHelpMenu();
     void makeToolBar();
     QAction* addAction(QMenu& menu, const QString& text, const QKeySequence& keys,
@@ -218,8 +228,10 @@ private:
     QAction* _editTitleAction = nullptr;
     QAction* _openTourAction = nullptr;
     QAction* _printAction = nullptr;
+    QAction* _statisticsAction = nullptr;
 
     std::vector<TourWindowController*> _tourWindows;
+    StatWindowController* _swc = nullptr;
     std::unique_ptr<OdoCom> _odoCom; ///< none while not connected
     bool _isSimulated = false;       ///< made-up rides: they take no real dump's place at home
     QElapsedTimer _sinceFirstBytes;

@@ -1,8 +1,10 @@
 // What is done with the tours of the table.
 
 #include "library/MyDocument.h"
+#include "ui/ApplicationWindows.h"
 #include "ui/Counted.h"
 #include "ui/MainWindowController.h"
+#include "ui/StatWindowController.h"
 #include "ui/TourPage.h"
 #include "ui/TourTableView.h"
 #include "ui/TourTexts.h"
@@ -53,6 +55,29 @@ void MainWindowController::closeWindowsOfLostTours()
             window->close();
     }
 }
+
+std::vector<QWidget*> MainWindowController::furtherWindows() const
+{
+    std::vector<QWidget*> windows(_tourWindows.begin(), _tourWindows.end());
+    if (_swc && _swc->isVisible())
+        windows.push_back(_swc);
+    return windows;
+}
+
+// Statistics
+
+void MainWindowController::showStatWindow()
+{
+    if (!_swc) {
+        _swc = new StatWindowController(_windows, _document, _defaults);
+        connect(_swc, &StatWindowController::activated, this, &MainWindowController::activated);
+        showTitle();
+    }
+    _swc->setToursArray(_document.toursArray());
+    ApplicationWindows::bringToFront(*_swc);
+}
+
+// Paper
 
 void MainWindowController::printTour()
 {

@@ -12,13 +12,14 @@ class WindowMenu : public QMenu {
     Q_OBJECT
 
 public:
-    /// `windows` have to outlive it.
-    WindowMenu(const ApplicationWindows& windows, QWidget& owner);
+    /// `windows` have to outlive it. `first` stand above the windows; they are the owner's.
+    WindowMenu(const ApplicationWindows& windows, QWidget& owner, const QList<QAction*>& first = {});
 
 private:
     void fill();
 
     const ApplicationWindows& _windows;
+    QList<QAction*> _first;
 };
 
 } // namespace ridelog

@@ -125,8 +125,8 @@ TEST_F(MainWindowActions, MenusThatAreFilledWhenTheyOpenLeadSomewhere)
         Q_EMIT menu->aboutToShow();
         return menu->actions();
     };
-    EXPECT_EQ(open("Window").at(0)->text(), QStringLiteral("&1  a&&b"));
-    EXPECT_EQ(open("Window").at(1)->text(), QStringLiteral("&2  Untitled"));
+    EXPECT_EQ(open("Window").at(2)->text(), QStringLiteral("&1  a&&b"));
+    EXPECT_EQ(open("Window").at(3)->text(), QStringLiteral("&2  Untitled"));
     windows->mainWindows().at(1)->close();
     ASSERT_TRUE(eventually([&] { return windows->mainWindows().size() == 1; }));
     open("Open Recent").at(0)->trigger();
