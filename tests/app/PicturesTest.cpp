@@ -138,6 +138,27 @@ TEST_F(Pictures, TourWindow)
     show({}, "ctrl+2", darkDesktop, QStringLiteral("tour-window-dark.png"));
 }
 
+TEST_F(Pictures, Statistics)
+{
+    const auto show = [this](const QByteArray& settings, const char* quantity, const QStringList& variables,
+                             const QString& name) {
+        setUp("drawerOpen=false\nodoStatDate=2007-08-15T12:00:00+02:00\nstatTabViewIdentifier=2\n" +
+              settings);
+        start({demo}, variables);
+        ASSERT_TRUE(isInFront("Demo — ridelog"));
+        // Out of the chart, whose bars it would read.
+        desktop.moveMouseTo(corner);
+        desktop.press("ctrl+shift+t");
+        ASSERT_TRUE(isInFront("Statistics – Demo — ridelog"));
+        desktop.press(quantity);
+        take(name, {960, 560});
+        end();
+    };
+    show({}, "ctrl+5", {}, QStringLiteral("statistics.png"));
+    write("kdeglobals", darkColours);
+    show("useMiles=true\n", "ctrl+7", darkDesktop, QStringLiteral("statistics-dark.png"));
+}
+
 TEST_F(Pictures, Preferences)
 {
     const auto show = [this](const QStringList& variables) {
