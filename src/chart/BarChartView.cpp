@@ -2,14 +2,14 @@
 
 #include "chart/BarDrawing.h"
 #include "chart/ChartPaper.h"
+#include "chart/FocusFrame.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOption>
 
 #include <algorithm>
+#include <utility>
 
 namespace ridelog {
 
@@ -60,12 +60,8 @@ void BarChartView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     drawBars(painter, _scaling, markedBar());
-    if (hasFocus()) {
-        QStyleOptionFocusRect focus;
-        focus.initFrom(this);
-        focus.backgroundColor = Qt::white;
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
-    }
+    if (hasFocus())
+        drawFocusFrame(painter, *this);
 }
 
 void BarChartView::resizeEvent(QResizeEvent*)
@@ -77,9 +73,24 @@ void BarChartView::resizeEvent(QResizeEvent*)
 
 void BarChartView::mousePressEvent(QMouseEvent* event)
 {
-    const auto bar = _scaling.barAt(event->position());
-    if (bar && event->button() == Qt::LeftButton)
-        Q_EMIT chosen(*bar);
+    if (event->button() == Qt::LeftButton)
+        _pressed = _scaling.barAt(event->position());
+}
+
+/// Only where it was pressed: who has moved away wants something else.
+void BarChartView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    const auto pressed = std::exchange(_pressed, std::nullopt);
+    if (pressed && pressed == _scaling.barAt(event->position()))
+        Q_EMIT chosen(*pressed);
+}
+
+/// The first click of the two has led somewhere; the second one was not meant for the bar that is there now.
+void BarChartView::mouseDoubleClickEvent(QMouseEvent*)
+{
+    _pressed.reset();
 }
 
 void BarChartView::mouseMoveEvent(QMouseEvent* event)
@@ -126,7 +137,7 @@ void BarChartView::keyPressEvent(QKeyEvent* event)
         _mouse.reset();
         _current = bar;
         showMark();
-    } else if (const auto marked = markedBar(); marked && chooses) {
+    } else if (const auto marked = markedBar(); marked && chooses && !event->isAutoRepeat()) {
         Q_EMIT chosen(*marked);
     } else {
         QWidget::keyPressEvent(event);

@@ -38,6 +38,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -51,6 +53,7 @@ private:
 
     BarScaling _scaling;
     std::optional<int> _current;
+    std::optional<int> _pressed;   ///< the bar on which the mouse button went down
     std::optional<QPointF> _mouse; ///< where it is, as long as no key is pressed
 };
 

@@ -16,10 +16,19 @@ const QColor markedColumn(235, 235, 235);
 constexpr double ticLength = 5;
 constexpr double labelGap = 4;
 
+/// As it looks on the paper.
+QColor onWhite(const QColor& color)
+{
+    auto opaque = color;
+    opaque.setAlpha(255);
+    return colorByInterpolatingColor(opaque, Qt::white, color.alpha(), 255);
+}
+
 /// Of areas as large as bars the colour of a line would glare.
 QColor paler(const QColor& color)
 {
-    return colorByInterpolatingColor(Qt::white, color, 45, 100);
+    constexpr int white = 45; // per cent
+    return colorByInterpolatingColor(Qt::white, color, white, 100);
 }
 
 class BarDrawing {
@@ -44,6 +53,7 @@ public:
                 drawBar(bar, bar == marked);
             drawAxes();
             drawLabels();
+            drawNote();
         }
         _painter.restore();
     }
@@ -73,7 +83,7 @@ private:
 
     void drawBar(int bar, bool marked)
     {
-        const auto& color = _scaling.chart().color;
+        const auto color = onWhite(_scaling.chart().color);
         const auto place = _scaling.barOf(bar);
         if (place.height() <= 0)
             return;
@@ -98,6 +108,13 @@ private:
                                          std::max(_scaling.size().width() - width, 0.0));
             _painter.drawText(QPointF(left, _scaling.plot().bottom() + labelGap + _metrics.ascent()), label);
         }
+    }
+
+    void drawNote()
+    {
+        const auto& note = _scaling.chart().note;
+        _painter.drawText(_scaling.plot(), Qt::AlignCenter | Qt::TextSingleLine,
+                          _metrics.elidedText(note, Qt::ElideRight, _scaling.plot().width()));
     }
 
     void fill(const QRectF& rect, const QColor& color)

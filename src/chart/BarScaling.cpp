@@ -72,9 +72,9 @@ QString ticLabel(BarChart::Values values, double value, double step)
     if (values == BarChart::Values::seconds)
         return TimeFormatter::text(
             static_cast<int>(std::min(value, static_cast<double>(std::numeric_limits<int>::max()))));
-    if (value >= longest)
-        return QLocale().toString(value, 'g', 3);
-    return QLocale().toString(value, 'f', step < 1 ? 1 : 0);
+    auto locale = QLocale();
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return value >= longest ? locale.toString(value, 'g', 3) : locale.toString(value, 'f', step < 1 ? 1 : 0);
 }
 
 } // namespace
@@ -100,7 +100,8 @@ void BarScaling::makeTics(double height)
         return;
     const auto most = std::clamp(std::floor(height / ticSpacing), 1.0, mostTics);
     const auto step = ticStep(_chart.values, highest / most);
-    const auto count = static_cast<int>(std::ceil(highest / step));
+    // A value of single precision that lies on a tic is not above it.
+    const auto count = std::max(static_cast<int>(std::ceil(highest / step - 1e-6)), 1);
     _top = count * step;
     for (int tic = 0; tic <= count; ++tic)
         _tics.push_back(
@@ -136,7 +137,7 @@ QRectF BarScaling::columnOf(int bar) const
 QRectF BarScaling::barOf(int bar) const
 {
     const auto column = columnOf(bar);
-    const auto part = _top > 0 ? _chart.bars[static_cast<std::size_t>(bar)].value / _top : 0.0;
+    const auto part = _top > 0 ? std::min(_chart.bars[static_cast<std::size_t>(bar)].value / _top, 1.0) : 0.0;
     const auto height = column.height() * part;
     const auto width = std::min(column.width() * barPart, widestBar);
     return {column.center().x() - width / 2, column.bottom() - height, width, height};

@@ -25,6 +25,7 @@ struct BarChart {
     std::vector<Bar> bars = {};
     Values values = Values::numbers;
     QColor color = {};
+    QString note = {}; ///< in the middle: why there is nothing to be seen
 };
 
 /// Everything of a chart of bars that is computed and not drawn: margins, tics, and where a bar stands. All

@@ -2,13 +2,12 @@
 
 #include "chart/ChartDrawing.h"
 #include "chart/ChartLog.h"
+#include "chart/FocusFrame.h"
 #include "model/ChartProviders.h"
 #include "platform/Defaults.h"
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOption>
 #include <QtMath>
 
 namespace ridelog {
@@ -98,12 +97,8 @@ void ChartArrayView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     _scaling.emplace(ChartDrawing(painter, chart(size()), indicator()).draw());
-    if (hasFocus()) {
-        QStyleOptionFocusRect focus;
-        focus.initFrom(this);
-        focus.backgroundColor = Qt::white;
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
-    }
+    if (hasFocus())
+        drawFocusFrame(painter, *this);
 }
 
 void ChartArrayView::mousePressEvent(QMouseEvent* event)
