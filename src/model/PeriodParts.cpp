@@ -20,15 +20,30 @@ std::vector<TourOnDay> countedTours(const Tours& tours, const PeriodDays& days)
     return counted;
 }
 
-std::vector<QDate> yearsOf(const std::vector<TourOnDay>& tours)
+/// Those with tours, in order.
+std::vector<QDate> riddenYears(const std::vector<TourOnDay>& tours)
 {
     std::vector<QDate> years;
-    if (tours.empty())
-        return years;
-    const auto [first, last] = std::ranges::minmax_element(tours, {}, &TourOnDay::first);
-    for (auto year = QDate(first->first.year(), 1, 1); year <= last->first; year = year.addYears(1))
-        years.push_back(year);
+    years.reserve(tours.size());
+    for (const auto& [day, tour] : tours)
+        years.emplace_back(day.year(), 1, 1);
+    std::ranges::sort(years);
+    years.erase(std::unique(years.begin(), years.end()), years.end());
     return years;
+}
+
+/// From the first one to the last one, unless a damaged start lies so far off that nobody rode between them.
+std::vector<QDate> yearsOf(const std::vector<TourOnDay>& tours)
+{
+    constexpr int longestLife = 200;
+    auto years = riddenYears(tours);
+    if (years.empty() || years.back().year() - years.front().year() > longestLife)
+        return years;
+    std::vector<QDate> all;
+    all.reserve(longestLife + 1);
+    for (int year = years.front().year(); year <= years.back().year(); ++year)
+        all.emplace_back(year, 1, 1);
+    return all;
 }
 
 std::vector<QDate> monthsOf(int year)

@@ -15,6 +15,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
+#include <QPointer>
 #include <QPushButton>
 
 #include <algorithm>
@@ -289,7 +290,16 @@ void ApplicationWindows::showFailure(const QString& path, const QString& reason)
 
 void ApplicationWindows::quit()
 {
-    QApplication::closeAllWindows();
+    // Each takes its further windows along, which stay where it stays.
+    const auto all = mainWindows();
+    // A question may last, and other windows go meanwhile.
+    const std::vector<QPointer<MainWindowController>> left(all.begin(), all.end());
+    for (const auto& window : left) {
+        if (window && !window->close())
+            return;
+    }
+    if (_startWindow)
+        _startWindow->close();
 }
 
 } // namespace ridelog

@@ -16,16 +16,11 @@
 namespace ridelog {
 namespace {
 
-QString tr(const char* text)
-{
-    return SaveChartPanel::tr(text);
-}
-
 /// None, or why the picture is not in the file.
 std::optional<QString> savePicture(const PictureContent& content, const QString& path)
 {
     if (holdsTours(path))
-        return tr("it holds tours, which a picture would replace");
+        return SaveChartPanel::tr("it holds tours, which a picture would replace");
     const auto picture = chartPicture(content, path);
     return picture.error.isEmpty() ? writeWholeFile(path, picture.bytes) : picture.error;
 }
@@ -43,9 +38,9 @@ void saveChartPanelDidEnd(const SaveChartPanel& panel, Defaults& defaults, const
     }
     const auto path = panel.selectedFiles().constFirst();
     if (const auto error = savePicture(chart(size), path))
-        tell(tr("%1 was not saved: %2.").arg(QFileInfo(path).fileName(), *error));
+        tell(SaveChartPanel::tr("%1 was not saved: %2.").arg(QFileInfo(path).fileName(), *error));
     else
-        tell(tr("The chart was saved as %1.").arg(QDir::toNativeSeparators(path)));
+        tell(SaveChartPanel::tr("The chart was saved as %1.").arg(QDir::toNativeSeparators(path)));
 }
 
 } // namespace

@@ -209,7 +209,7 @@ void MainWindowController::makeConnectDrawer()
 void MainWindowController::restoreWindow()
 {
     if (!restoreFrame(*this, _defaults, DefaultsKeys::mainWindowFrame))
-        resize(usualSize.boundedTo(screen()->availableSize()));
+        resize(fitting(usualSize, *screen()));
     restoreState(_defaults.valueForKey(DefaultsKeys::mainWindowState).toByteArray());
     _splitter->restoreState(_defaults.valueForKey(DefaultsKeys::mainSplitter).toByteArray());
     _connectDrawer->setVisible(_defaults.boolForKey(DefaultsKeys::drawerOpen));
@@ -317,19 +317,23 @@ QString MainWindowController::documentName() const
     return _untitledNumber == 1 ? tr("Untitled") : tr("Untitled %1").arg(_untitledNumber);
 }
 
-void MainWindowController::showTitle()
+/// The document as windows are titled with it.
+QString MainWindowController::shownName() const
 {
-    // The platform adds the application's name, but only to titles that do not end with it already.
     auto name = documentName();
     if (name.endsWith(u'.' + MyDocument::extension))
         name.chop(1 + MyDocument::extension.size());
-    if (_document.isReadOnly())
-        name = tr("%1 (read-only)").arg(name);
-    setWindowTitle(titleWithName(name) + placeOfMark);
+    return _document.isReadOnly() ? tr("%1 (read-only)").arg(name) : name;
+}
+
+void MainWindowController::showTitle()
+{
+    // The platform adds the application's name, but only to titles that do not end with it already.
+    setWindowTitle(titleWithName(shownName()) + placeOfMark);
     setWindowFilePath(_document.path());
     setWindowModified(_document.isChanged());
     if (_swc)
-        _swc->setDocumentName(name);
+        _swc->setDocumentName(shownName());
     _revertAction->setEnabled(!_document.path().isEmpty());
 }
 

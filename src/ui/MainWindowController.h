@@ -136,6 +136,7 @@ private:
     void configureFormatters();
     void showTours();
     void showSummary();
+    QString shownName() const;
     void showTitle();
     void enableActions();
     void fillRecentMenu();

@@ -71,7 +71,7 @@ void MainWindowController::showStatWindow()
     if (!_swc) {
         _swc = new StatWindowController(_windows, _document, _defaults);
         connect(_swc, &StatWindowController::activated, this, &MainWindowController::activated);
-        showTitle();
+        _swc->setDocumentName(shownName());
     }
     _swc->setToursArray(_document.toursArray());
     ApplicationWindows::bringToFront(*_swc);

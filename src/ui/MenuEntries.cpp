@@ -1,7 +1,9 @@
 #include "ui/MenuEntries.h"
 
+#include "ui/ApplicationWindows.h"
 #include "ui/SegmentedControl.h"
 
+#include <QCoreApplication>
 #include <QMenu>
 #include <QToolButton>
 
@@ -32,6 +34,24 @@ void addSegments(QMenu& menu, const SegmentedControl& control, int first)
         addButtonEntry(menu, control.segment(index).text(), control.segment(index),
                        Qt::CTRL | static_cast<Qt::Key>(first + index));
     menu.addSeparator();
+}
+
+void addCloseAndQuit(QMenu& menu, QWidget& window, ApplicationWindows& windows)
+{
+    QObject::connect(
+        addEntry(menu, QCoreApplication::translate("MenuEntries", "&Close"), QKeySequence::Close),
+        &QAction::triggered, &window, &QWidget::close);
+    auto* action = addEntry(menu, QCoreApplication::translate("MenuEntries", "&Quit"), Qt::CTRL | Qt::Key_Q);
+    action->setMenuRole(QAction::QuitRole);
+    QObject::connect(action, &QAction::triggered, &windows, &ApplicationWindows::quit);
+}
+
+void addPreferences(QMenu& menu, ApplicationWindows& windows)
+{
+    auto* action =
+        addEntry(menu, QCoreApplication::translate("MenuEntries", "&Preferences…"), Qt::CTRL | Qt::Key_Comma);
+    action->setMenuRole(QAction::PreferencesRole);
+    QObject::connect(action, &QAction::triggered, &windows, &ApplicationWindows::showPreferences);
 }
 
 } // namespace ridelog

@@ -7,10 +7,12 @@ QT_BEGIN_NAMESPACE
 class QAbstractButton;
 class QAction;
 class QMenu;
+class QWidget;
 QT_END_NAMESPACE
 
 namespace ridelog {
 
+class ApplicationWindows;
 class SegmentedControl;
 
 QAction* addEntry(QMenu& menu, const QString& text, const QKeySequence& keys);
@@ -18,5 +20,8 @@ QAction* addEntry(QMenu& menu, const QString& text, const QKeySequence& keys);
 void addButtonEntry(QMenu& menu, const QString& text, QAbstractButton& button, const QKeySequence& keys = {});
 /// An entry for each button of the control, with the shortcuts Ctrl+`first` and so on.
 void addSegments(QMenu& menu, const SegmentedControl& control, int first);
+/// Close for this window, and Quit.
+void addCloseAndQuit(QMenu& menu, QWidget& window, ApplicationWindows& windows);
+void addPreferences(QMenu& menu, ApplicationWindows& windows);
 
 } // namespace ridelog

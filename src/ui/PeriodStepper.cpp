@@ -40,10 +40,12 @@ void PeriodStepper::showPeriod(QDate day, WeekRule weekRule)
 {
     const auto title = [&](QDate of) { return periodTitle(_period, of, weekRule, QLocale()); };
     // The button that has been pressed stays under the mouse, whatever the period is called.
+    constexpr int margin = 8;
     int widest = _title->minimumWidth();
-    for (int month = 1; month <= 12; ++month)
-        widest =
-            std::max(widest, _title->fontMetrics().horizontalAdvance(title({day.year(), month, 28})) + 8);
+    for (int month = 1; month <= 12; ++month) {
+        const QDate lateInMonth(day.year(), month, 28); // in a week of two digits as well
+        widest = std::max(widest, _title->fontMetrics().horizontalAdvance(title(lateInMonth)) + margin);
+    }
     _title->setMinimumWidth(widest);
     _title->setText(title(day));
 }

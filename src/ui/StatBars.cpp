@@ -1,11 +1,13 @@
 #include "ui/StatBars.h"
 
 #include "chart/ChartPaper.h"
+#include "chart/ChartSettings.h"
 #include "format/ReadableUnits.h"
 #include "format/TimeFormatter.h"
 #include "format/UnitFormatters.h"
 #include "library/DefaultsKeys.h"
 #include "platform/Defaults.h"
+#include "ui/TourTexts.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -51,7 +53,7 @@ QString elevationGainText(Values values, const Defaults& defaults)
 
 QString heartBeatsText(Values values, const Defaults&)
 {
-    return QLocale().toString(static_cast<qlonglong>(values.heartBeats));
+    return countText(values.heartBeats);
 }
 
 /// In the order of the quantities.
@@ -146,6 +148,10 @@ BarChart StatBars::chart() const
     if (!unit.isEmpty())
         title += QStringLiteral(" (%1)").arg(unit);
     BarChart chart{.title = title, .values = traits.kind, .color = chartColor(settings.*traits.colour)};
+    // Every tour takes its time.
+    const auto isEmpty = [](const PeriodPart& part) { return part.statistics.duration == 0; };
+    if (std::ranges::all_of(_parts, isEmpty))
+        chart.note = QCoreApplication::translate("StatBars", "No tours");
     for (const auto& [firstDay, statistics] : _parts)
         chart.bars.push_back(
             {.label = shortName(_period, firstDay), .value = traits.value(statistics, units)});
@@ -160,6 +166,12 @@ QString StatBars::textOf(int bar) const
     return QStringLiteral("%1: %2 %3")
         .arg(longName(_period, firstDay), traits.text(statistics, *_defaults), unit)
         .trimmed();
+}
+
+QString StatBars::pictureName() const
+{
+    return QCoreApplication::translate("StatBars", "Statistics %1 %2", "period and quantity")
+        .arg(_periodTitle, nameOf(_quantity));
 }
 
 QDate StatBars::firstDayOf(int bar) const

@@ -29,6 +29,8 @@ public:
     BarChart chart() const;
     /// What the bar says, in words: "March 2007: 312.4 km".
     QString textOf(int bar) const;
+    /// What a file of the chart may be called, without an ending.
+    QString pictureName() const;
     QDate firstDayOf(int bar) const;
     /// The bar of the part that the chosen day lies in.
     std::optional<int> chosenBar() const;

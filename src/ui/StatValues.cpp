@@ -14,14 +14,9 @@
 namespace ridelog {
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("StatValues", text);
-}
-
 QString dayText(const OdoStat::Date& date)
 {
-    return date ? QLocale().toString(date->date(), QLocale::LongFormat) : QString();
+    return date ? QLocale().toString(date->date(), shortDateFormat()) : QString();
 }
 
 } // namespace
@@ -29,37 +24,46 @@ QString dayText(const OdoStat::Date& date)
 std::vector<StatValue> statValues(OdoStat& stat, Period period, const Defaults& defaults)
 {
     const auto values = stat.stat(period);
+    // Nothing has no average.
+    const bool hasTours = stat.firstTour(period).has_value();
     const auto formatter = UnitFormatters::statistics(defaults);
     const auto altitude = UnitFormatters::altitude(defaults);
     const ReadableUnits units(defaults.boolForKey(DefaultsKeys::useMiles));
-    const auto percent = QStringLiteral("%");
 
     std::vector<StatValue> all;
-    const auto add = [&all](const char* key, const QString& name, const QString& text) {
-        all.push_back({.key = QLatin1StringView(key), .name = name, .text = text});
+    const auto add = [&all](const char* key, const char* name, const QString& text,
+                            const QString& unit = QString()) {
+        auto shown = QCoreApplication::translate("StatValues", name);
+        if (!unit.isEmpty())
+            shown += QStringLiteral(" (%1)").arg(unit);
+        all.push_back({.key = QLatin1StringView(key), .name = shown, .text = text});
     };
-    const auto addWithUnit = [&](const char* key, const QString& name, const QString& unit,
-                                 const QString& text) {
-        add(key, QStringLiteral("%1 (%2)").arg(name, unit), text);
+    const auto addOfTours = [&](const char* key, const char* name, const QString& text,
+                                const QString& unit = QString()) {
+        add(key, name, hasTours ? text : QString(), unit);
     };
-    addWithUnit("distance", tr("Distance"), units.distanceUnit(),
-                formatter.stringForObjectValue(values.distance));
-    add("duration", tr("Duration"), TimeFormatter().stringForObjectValue(values.duration));
-    addWithUnit("elevationGain", tr("Elevation gain"), units.altitudeUnit(),
-                altitude.stringForObjectValue(static_cast<qlonglong>(values.elevationGain)));
-    addWithUnit("averageSpeed", tr("Average speed"), units.speedUnit(),
-                formatter.stringForObjectValue(values.averageSpeed));
-    addWithUnit("maxSpeed", tr("Highest speed"), units.speedUnit(),
-                formatter.stringForObjectValue(values.maxSpeed));
-    add("averagePulse", tr("Average pulse"), pulseText(values.averagePulse));
-    add("maxPulse", tr("Highest pulse"), pulseText(static_cast<float>(values.maxPulse)));
-    add("heartBeats", tr("Heart beats"), QLocale().toString(static_cast<qlonglong>(values.heartBeats)));
-    addWithUnit("averageClimbingPerc", tr("Average grade uphill"), percent,
-                gradeText(values.averageClimbingPerc));
-    addWithUnit("averageDecendingPerc", tr("Average grade downhill"), percent,
-                gradeText(values.averageDecendingPerc));
-    add("firstTour", tr("First tour"), dayText(stat.firstTour(period)));
-    add("lastTour", tr("Last tour"), dayText(stat.lastTour(period)));
+    const auto percent = QStringLiteral("%");
+    add("distance", QT_TRANSLATE_NOOP("StatValues", "Distance"),
+        formatter.stringForObjectValue(values.distance), units.distanceUnit());
+    add("duration", QT_TRANSLATE_NOOP("StatValues", "Duration"),
+        TimeFormatter().stringForObjectValue(values.duration));
+    add("elevationGain", QT_TRANSLATE_NOOP("StatValues", "Elevation gain"),
+        altitude.stringForObjectValue(static_cast<qlonglong>(values.elevationGain)), units.altitudeUnit());
+    addOfTours("averageSpeed", QT_TRANSLATE_NOOP("StatValues", "Average speed"),
+               formatter.stringForObjectValue(values.averageSpeed), units.speedUnit());
+    addOfTours("maxSpeed", QT_TRANSLATE_NOOP("StatValues", "Highest speed"),
+               formatter.stringForObjectValue(values.maxSpeed), units.speedUnit());
+    addOfTours("averagePulse", QT_TRANSLATE_NOOP("StatValues", "Average pulse"),
+               pulseText(values.averagePulse));
+    addOfTours("maxPulse", QT_TRANSLATE_NOOP("StatValues", "Highest pulse"),
+               pulseText(static_cast<float>(values.maxPulse)));
+    add("heartBeats", QT_TRANSLATE_NOOP("StatValues", "Heart beats"), countText(values.heartBeats));
+    addOfTours("averageClimbingPerc", QT_TRANSLATE_NOOP("StatValues", "Average grade uphill"),
+               gradeText(values.averageClimbingPerc), percent);
+    addOfTours("averageDecendingPerc", QT_TRANSLATE_NOOP("StatValues", "Average grade downhill"),
+               gradeText(values.averageDecendingPerc), percent);
+    add("firstTour", QT_TRANSLATE_NOOP("StatValues", "First tour"), dayText(stat.firstTour(period)));
+    add("lastTour", QT_TRANSLATE_NOOP("StatValues", "Last tour"), dayText(stat.lastTour(period)));
     return all;
 }
 

@@ -37,10 +37,7 @@ void StatWindowController::makeFileMenu()
     connect(saveChartAction, &QAction::triggered, this, &StatWindowController::saveChart);
     connect(_saveChartButton, &QToolButton::clicked, saveChartAction, &QAction::trigger);
     menu.addSeparator();
-    connect(addEntry(menu, tr("&Close"), QKeySequence::Close), &QAction::triggered, this, &QWidget::close);
-    auto* quitAction = addEntry(menu, tr("&Quit"), Qt::CTRL | Qt::Key_Q);
-    quitAction->setMenuRole(QAction::QuitRole);
-    connect(quitAction, &QAction::triggered, &_windows, &ApplicationWindows::quit);
+    addCloseAndQuit(menu, *this, _windows);
 }
 
 void StatWindowController::makeEditMenu()
@@ -48,6 +45,8 @@ void StatWindowController::makeEditMenu()
     auto& menu = *menuBar()->addMenu(tr("&Edit"));
     connect(addEntry(menu, tr("&Copy Values"), Qt::CTRL | Qt::SHIFT | Qt::Key_C), &QAction::triggered, this,
             &StatWindowController::copyValues);
+    menu.addSeparator();
+    addPreferences(menu, _windows);
 }
 
 void StatWindowController::makeViewMenu()
@@ -108,7 +107,7 @@ void StatWindowController::copyValues()
 void StatWindowController::saveChart()
 {
     askToSaveChart(
-        *this, _defaults, _chart->chart().title, _chart->size(),
+        *this, _defaults, _bars.pictureName(), _chart->size(),
         [this](QSize size) { return _chart->picture(size); },
         [this](const QString& outcome) { showMessage(outcome); });
 }

@@ -1,6 +1,7 @@
 #include "ui/StatWindowController.h"
 
 #include "chart/BarChartView.h"
+#include "chart/ChartSettings.h"
 #include "library/DefaultsKeys.h"
 #include "library/MyDocument.h"
 #include "platform/Defaults.h"
@@ -10,6 +11,7 @@
 #include "ui/PeriodStepper.h"
 #include "ui/SegmentedControl.h"
 #include "ui/StatValuesView.h"
+#include "ui/TourTexts.h"
 #include "ui/UiLog.h"
 #include "ui/WindowFrame.h"
 #include "ui/WindowTitle.h"
@@ -38,27 +40,16 @@ constexpr QSize usualSize(960, 600);
 const QDate firstDay(1000, 1, 1);
 const QDate lastDay(9999, 12, 31);
 
-const Tours noTours;
-
 std::size_t indexOf(Period period)
 {
     return static_cast<std::size_t>(period);
-}
-
-/// The locale's own, with all digits of the year.
-QString dateFormat()
-{
-    auto format = QLocale().dateFormat(QLocale::ShortFormat);
-    if (!format.contains(QStringLiteral("yyyy")))
-        format.replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
-    return format;
 }
 
 } // namespace
 
 StatWindowController::StatWindowController(ApplicationWindows& windows, MyDocument& document,
                                            Defaults& defaults)
-    : _windows(windows), _defaults(defaults), _toursArray(&noTours)
+    : _windows(windows), _defaults(defaults)
 {
     qCDebug(lcUi, "[StatWindowController init]");
     new FileDrop(_windows, *this);
@@ -98,17 +89,17 @@ StatWindowController::~StatWindowController()
 
 void StatWindowController::setToursArray(const Tours& tours)
 {
-    if (&tours == _toursArray)
+    if (&tours == &toursArray())
         return;
-    _toursArray = &tours;
     _odoStat->setToursArray(tours);
     _refresh.start();
 }
 
 void StatWindowController::setOdoStat(std::unique_ptr<OdoStat> odoStat)
 {
+    if (_odoStat)
+        odoStat->setToursArray(toursArray());
     _odoStat = std::move(odoStat);
-    _odoStat->setToursArray(*_toursArray);
     connect(_odoStat.get(), &OdoStat::statChanged, &_refresh, qOverload<>(&QTimer::start));
     _refresh.start();
 }
@@ -139,7 +130,7 @@ QWidget* StatWindowController::makeSteps()
     _dateField->setAccessibleName(tr("Date"));
     _dateField->setCalendarPopup(true);
     _dateField->setDateRange(firstDay, lastDay);
-    _dateField->setDisplayFormat(dateFormat());
+    _dateField->setDisplayFormat(shortDateFormat());
     // A year that is being typed is no date to go to.
     _dateField->setKeyboardTracking(false);
     connect(_dateField, &QDateEdit::dateChanged, this, &StatWindowController::moveToDay);
@@ -216,7 +207,7 @@ void StatWindowController::windowDidLoad()
 {
     qCDebug(lcUi, "[windowDidLoad]");
     if (!restoreFrame(*this, _defaults, DefaultsKeys::statWindowFrame))
-        resize(usualSize.boundedTo(screen()->availableSize()));
+        resize(fitting(usualSize, *screen()));
     const auto identifier = _defaults.textForKey(DefaultsKeys::statTabViewIdentifier);
     for (int tab = 0; tab < _tabView->count(); ++tab) {
         if (_tabView->tabData(tab) == identifier)
@@ -274,7 +265,7 @@ void StatWindowController::refresh()
     }
     for (const auto period : allPeriods)
         _values[indexOf(period)]->showValues(statValues(*_odoStat, period, _defaults));
-    // The chart does not move when the names of days are shorter.
+    // The chart does not move when a number is shorter than the one before.
     _pages->setMinimumWidth(std::max(_pages->minimumWidth(), _pages->minimumSizeHint().width()));
     refreshChart();
     update();
@@ -299,6 +290,12 @@ void StatWindowController::changeEvent(QEvent* event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         Q_EMIT activated();
+}
+
+void StatWindowController::hideEvent(QHideEvent* event)
+{
+    QMainWindow::hideEvent(event);
+    comeBackWhereItIs(*this);
 }
 
 void StatWindowController::showEvent(QShowEvent* event)
@@ -340,7 +337,7 @@ bool StatWindowController::moveToDay(QDate day)
     if (isWithinReach)
         _odoStat->setDate(CalendarDate::onDay(_odoStat->date(), day));
     showMessage(isWithinReach ? QString()
-                              : tr("There are statistics from the year %1 to the year %2.")
+                              : tr("This window goes from the year %1 to the year %2.")
                                     .arg(QString::number(firstDay.year()), QString::number(lastDay.year())));
     return isWithinReach;
 }

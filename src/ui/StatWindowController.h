@@ -41,7 +41,7 @@ public:
     StatWindowController(ApplicationWindows& windows, MyDocument& document, Defaults& defaults);
     ~StatWindowController() override;
 
-    const Tours& toursArray() const { return *_toursArray; }
+    const Tours& toursArray() const { return _odoStat->toursArray(); }
     /// The list is not copied. What has been computed of another one stays until a step makes it stale.
     void setToursArray(const Tours& tours);
     void setToursArray(Tours&& tours) = delete;
@@ -81,6 +81,7 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
@@ -117,7 +118,6 @@ private:
 
     ApplicationWindows& _windows;
     Defaults& _defaults;
-    const Tours* _toursArray;
     std::unique_ptr<OdoStat> _odoStat;
     StatBars _bars;
     QTimer _refresh; ///< follows what a step discards, or what happened to many tours at once, once

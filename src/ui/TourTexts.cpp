@@ -22,9 +22,24 @@ QString powerText(double watts)
     return QLocale().toString(watts, 'f', 0);
 }
 
+QString countText(std::int64_t count)
+{
+    auto locale = QLocale();
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(static_cast<qlonglong>(count));
+}
+
 QString temperatureText(std::optional<float> celsius, int decimals)
 {
     return celsius ? QLocale().toString(static_cast<double>(*celsius), 'f', decimals) : QString();
+}
+
+QString shortDateFormat()
+{
+    auto format = QLocale().dateFormat(QLocale::ShortFormat);
+    if (!format.contains(QStringLiteral("yyyy")))
+        format.replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
+    return format;
 }
 
 QString startAndType(const OdoTour& tour)

@@ -43,10 +43,7 @@ void TourWindowController::makeFileMenu()
     connect(addEntry(menu, tr("&Print…"), QKeySequence::Print), &QAction::triggered, this,
             &TourWindowController::print);
     menu.addSeparator();
-    connect(addEntry(menu, tr("&Close"), QKeySequence::Close), &QAction::triggered, this, &QWidget::close);
-    auto* quitAction = addEntry(menu, tr("&Quit"), Qt::CTRL | Qt::Key_Q);
-    quitAction->setMenuRole(QAction::QuitRole);
-    connect(quitAction, &QAction::triggered, &_windows, &ApplicationWindows::quit);
+    addCloseAndQuit(menu, *this, _windows);
 }
 
 void TourWindowController::makeEditMenu()
@@ -66,9 +63,7 @@ void TourWindowController::makeEditMenu()
     _dataTable->addAction(copyAction);
     _dataTable->setContextMenuPolicy(Qt::ActionsContextMenu);
     menu.addSeparator();
-    auto* preferencesAction = addEntry(menu, tr("&Preferences…"), Qt::CTRL | Qt::Key_Comma);
-    preferencesAction->setMenuRole(QAction::PreferencesRole);
-    connect(preferencesAction, &QAction::triggered, &_windows, &ApplicationWindows::showPreferences);
+    addPreferences(menu, _windows);
 }
 
 void TourWindowController::makeFormatMenu()

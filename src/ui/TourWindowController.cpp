@@ -78,7 +78,7 @@ TourWindowController::TourWindowController(ApplicationWindows& windows, MyDocume
     restoreAxes();
     readLabelsAndSetChartNames();
     if (!restoreFrame(*this, _defaults, DefaultsKeys::tourWindowFrame(_odoTour->description())))
-        resize(usualSize.boundedTo(screen()->availableSize()));
+        resize(fitting(usualSize, *screen()));
     setupGUI();
     connect(&_document.tourChanges(), &TourChanges::changed, this, [this](const OdoTour& changed) {
         if (&changed == _odoTour.get())

@@ -11,6 +11,10 @@ void ValuesArea::setContent(QWidget& content)
     setWidget(&content);
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // Where nothing scrolls there is nothing to do for the keys.
+    const auto follow = [this](int, int most) { setFocusPolicy(most > 0 ? Qt::StrongFocus : Qt::NoFocus); };
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, follow);
+    follow(0, verticalScrollBar()->maximum());
 }
 
 void ValuesArea::showEvent(QShowEvent* event)

@@ -42,4 +42,16 @@ void storeFrame(const QWidget& window, Defaults& defaults, const QString& name)
     defaults.setValue(name, window.saveGeometry());
 }
 
+QSize fitting(QSize usual, const QScreen& screen)
+{
+    // A window that is not shown yet does not know how large what the desktop puts around it is.
+    constexpr QSize around(8, 40);
+    return usual.boundedTo(screen.availableSize() - around);
+}
+
+void comeBackWhereItIs(QWidget& window)
+{
+    window.setAttribute(Qt::WA_Moved);
+}
+
 } // namespace ridelog

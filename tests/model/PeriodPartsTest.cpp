@@ -110,5 +110,16 @@ TEST(PeriodTitle, NamesThePeriodOfADay)
     EXPECT_EQ(title(Period::week, Qt::Sunday, QLocale::c()), "Week 1, 2007");
 }
 
+TEST(PeriodParts, AStartThatIsDamagedDoesNotMakeYearsWithoutEnd)
+{
+    const Tours tours{Ride{.start = berlin(2007, 3, 10)}.tour(), Ride{.start = berlin(2009, 3, 10)}.tour(),
+                      Ride{.start = berlin(5'000'000, 3, 10)}.tour(), Ride{}.tour()};
+    OdoStat stat(WeekRule{}, berlin(2007, 3, 10));
+    stat.setToursArray(tours);
+    EXPECT_EQ(partsOf(Period::all, stat).size(), 4U);
+    stat.setDate(berlin(5'000'000, 3, 1));
+    EXPECT_EQ(partsOf(Period::month, stat).size(), 31U);
+}
+
 } // namespace
 } // namespace ridelog
