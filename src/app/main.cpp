@@ -5,6 +5,7 @@
 #include "platform/MainThread.h"
 #include "platform/StopSignals.h"
 #include "ui/ApplicationWindows.h"
+#include "ui/Languages.h"
 #include "ui/MainWindowController.h"
 #include "update/ApplicationInfo.h"
 
@@ -131,6 +132,7 @@ int main(int argc, char* argv[])
     });
     Defaults defaults;
     AppController controller(defaults);
+    speakChosenLanguage(defaults);
     ApplicationWindows windows(controller, defaults);
     if (options.isSet(updateUrlName))
         windows.setUpdateUrl(options.value(updateUrlName));

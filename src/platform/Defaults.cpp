@@ -155,9 +155,12 @@ void Defaults::saveIfDue()
 bool Defaults::synchronize()
 {
     _saveIsDue = false;
+    const bool wasFailing = _failed;
     const auto content = exchange();
     const bool done = !_failed;
     replace(_stored, content);
+    if (wasFailing == done)
+        Q_EMIT failingChanged();
     return done;
 }
 

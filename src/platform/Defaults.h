@@ -72,6 +72,8 @@ public:
     /// Writes what is not in the file yet, forces it to disk, and takes over what others wrote. False if the
     /// file could not be read or does not hold everything afterwards; the next call tries again.
     bool synchronize();
+    /// Whether the file could not be used last; what is changed lasts until the program ends.
+    bool isFailing() const { return _failed; }
 
     /// Calls `callback` after each change of this key's value, as long as `context` lives.
     QMetaObject::Connection observe(const QString& key, const QObject* context,
@@ -80,6 +82,8 @@ public:
 Q_SIGNALS:
     /// Readers of this key get another value than before, whoever wrote it.
     void changed(const QString& key);
+    /// The file cannot be used, or can again.
+    void failingChanged();
 
 private:
     using Values = DefaultsFile::Values;

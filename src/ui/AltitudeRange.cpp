@@ -5,13 +5,12 @@
 #include "library/DefaultsKeys.h"
 #include "platform/Defaults.h"
 #include "ui/DefaultsBinding.h"
+#include "ui/RangeLimits.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-
-#include <algorithm>
 
 namespace ridelog {
 namespace {
@@ -22,7 +21,7 @@ constexpr float highest = 10000;
 /// Characters: more than any number needs, and few enough to be said in a message.
 constexpr int longest = 24;
 /// Metres: what is left of a range at least when one limit pushes the other.
-constexpr double leastExtent = 100;
+constexpr float leastExtent = 100;
 
 } // namespace
 
@@ -74,37 +73,37 @@ void AltitudeRange::commit(QLineEdit& field)
         return;
     field.setModified(false);
     auto formatter = UnitFormatters::manualRange(_defaults);
+    // There is room for the other one.
+    const bool isLower = &field == _minRangeTextField;
+    const float least = isLower ? lowest : lowest + leastExtent;
+    const float most = isLower ? highest - leastExtent : highest;
     // It reads in the units that it last wrote with.
-    const auto least = formatter.stringForObjectValue(lowest);
-    const auto most = formatter.stringForObjectValue(highest);
+    const auto leastText = formatter.stringForObjectValue(least);
+    const auto mostText = formatter.stringForObjectValue(most);
     QVariant metres;
     QString refusal;
     if (!formatter.getObjectValue(&metres, field.text(), nullptr))
         refusal = tr("“%1” is no altitude. Write a number, like 850.").arg(field.text());
-    else if (metres.toFloat() < lowest || metres.toFloat() > highest)
-        refusal = tr("“%1” is no altitude: it has to be between %2 and %3 %4")
-                      .arg(field.text(), least, most, _unit->text());
+    else if (metres.toFloat() < least || metres.toFloat() > most)
+        refusal = tr("“%1” is out of range. It has to be between %2 and %3 %4.")
+                      .arg(field.text(), leastText, mostText, _unit->text());
     else
         setLimit(field, metres.toDouble());
     showRange();
     Q_EMIT edited(refusal);
 }
 
-/// A limit that would pass the other one pushes it along, with the range as wide as before.
 void AltitudeRange::setLimit(const QLineEdit& field, double metres)
 {
-    const auto low = static_cast<double>(_defaults.floatForKey(DefaultsKeys::minRange));
-    const auto high = static_cast<double>(_defaults.floatForKey(DefaultsKeys::maxRange));
-    const auto extent = std::max(high - low, leastExtent);
-    if (&field == _minRangeTextField) {
-        if (metres >= high)
-            _defaults.setValue(DefaultsKeys::maxRange, metres + extent);
-        _defaults.setValue(DefaultsKeys::minRange, metres);
-    } else {
-        if (metres <= low)
-            _defaults.setValue(DefaultsKeys::minRange, metres - extent);
-        _defaults.setValue(DefaultsKeys::maxRange, metres);
-    }
+    const RangeLimits before{static_cast<double>(_defaults.floatForKey(DefaultsKeys::minRange)),
+                             static_cast<double>(_defaults.floatForKey(DefaultsKeys::maxRange))};
+    const auto after = &field == _minRangeTextField ? before.withLow(metres, leastExtent, highest)
+                                                    : before.withHigh(metres, leastExtent, lowest);
+    // The one that is pushed goes first: the range is never the wrong way round.
+    if (after.high > before.high)
+        _defaults.setValue(DefaultsKeys::maxRange, after.high);
+    _defaults.setValue(DefaultsKeys::minRange, after.low);
+    _defaults.setValue(DefaultsKeys::maxRange, after.high);
 }
 
 void AltitudeRange::showRange()

@@ -15,7 +15,7 @@ ColourButton::ColourButton(const QString& name)
 void ColourButton::setColour(const QColor& colour)
 {
     _colour = colour;
-    setAccessibleDescription(colour.name());
+    setAccessibleDescription(colour.name(colour.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb));
     update();
 }
 

@@ -1,6 +1,6 @@
 #include "ui/DefaultsBinding.h"
 
-#include "chart/ChartDrawing.h"
+#include "chart/ChartPaper.h"
 #include "platform/Defaults.h"
 #include "ui/ColourButton.h"
 

@@ -4,6 +4,8 @@
 
 namespace ridelog {
 
+class Defaults;
+
 /// A language of the windows.
 struct Language {
     QString code; ///< as QLocale has it
@@ -14,5 +16,9 @@ struct Language {
 inline const Language languages[] = {
     {QStringLiteral("en"), QStringLiteral("English")},
 };
+
+/// Makes windows that are opened from now on speak the language that the rider has chosen, with dates and
+/// numbers in it; without a choice, or one that there is not, the system's own.
+void speakChosenLanguage(const Defaults& defaults);
 
 } // namespace ridelog

@@ -3,11 +3,14 @@
 #include "library/DefaultsKeys.h"
 #include "platform/Defaults.h"
 #include "ui/MessageLine.h"
+#include "ui/PreferencesPage.h"
 #include "ui/WindowFrame.h"
 
+#include <QDir>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -22,10 +25,10 @@ PreferencesController::PreferencesController(Defaults& defaults)
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(_pages, 1);
-    _pages->addTab(makeGeneralPage(), tr("&General"));
-    _pages->addTab(makeChartPage(), tr("&Chart"));
-    _pages->addTab(makePulsePage(), tr("&Pulse"));
-    _pages->addTab(makeDevicePage(), tr("De&vice"));
+    addPage(makeGeneralPage(), tr("&General"));
+    addPage(makeChartPage(), tr("&Chart"));
+    addPage(makePulsePage(), tr("&Pulse"));
+    addPage(makeDevicePage(), tr("De&vice"));
     _message->setTextFormat(Qt::PlainText);
     _message->setWordWrap(true);
     // The panel keeps its size when there is something to say.
@@ -38,7 +41,12 @@ PreferencesController::PreferencesController(Defaults& defaults)
     foot->addWidget(_message, 1);
     foot->addWidget(closeButton);
     layout->addLayout(foot);
+    // What was refused was on the page before.
+    connect(_pages, &QTabWidget::currentChanged, this, [this] { showMessage({}); });
+    connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QDialog::reject);
 
+    connect(&_defaults, &Defaults::failingChanged, this, [this] { showMessage({}); });
+    showMessage({});
     restoreFrame(*this, _defaults, DefaultsKeys::preferencesPanelFrame);
 }
 
@@ -50,6 +58,19 @@ PreferencesController::~PreferencesController()
     _defaults.synchronize();
 }
 
+void PreferencesController::addPage(PreferencesPage* page, const QString& name)
+{
+    connect(page, &PreferencesPage::reset, this, [this] { showMessage({}); });
+    _pages->addTab(page, name);
+}
+
+void PreferencesController::hideEvent(QHideEvent* event)
+{
+    QDialog::hideEvent(event);
+    showMessage({});
+    comeBackWhereItIs(*this);
+}
+
 QString PreferencesController::message() const
 {
     return _message->text();
@@ -57,7 +78,10 @@ QString PreferencesController::message() const
 
 void PreferencesController::showMessage(const QString& message)
 {
-    _message->setText(message);
+    const bool isLost = message.isEmpty() && _defaults.isFailing();
+    _message->setText(isLost ? tr("What you choose lasts until ridelog ends: %1 cannot be written.")
+                                   .arg(QDir::toNativeSeparators(_defaults.path()))
+                             : message);
     announce(*_message);
 }
 

@@ -10,6 +10,7 @@ QT_END_NAMESPACE
 namespace ridelog {
 
 class Defaults;
+class PreferencesPage;
 
 /// The preferences panel: what the rider can choose for all windows, on pages. Each choice counts at once.
 /// Closing the panel hides it.
@@ -25,12 +26,16 @@ public:
     /// What is wrong with what was typed last, in words.
     QString message() const;
 
+protected:
+    void hideEvent(QHideEvent* event) override;
+
 private:
+    void addPage(PreferencesPage* page, const QString& name);
     void showMessage(const QString& message);
-    QWidget* makeGeneralPage();
-    QWidget* makeChartPage();
-    QWidget* makePulsePage();
-    QWidget* makeDevicePage();
+    PreferencesPage* makeGeneralPage();
+    PreferencesPage* makeChartPage();
+    PreferencesPage* makePulsePage();
+    PreferencesPage* makeDevicePage();
 
     Defaults& _defaults;
     QTabWidget* _pages;

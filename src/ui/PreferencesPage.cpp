@@ -19,7 +19,9 @@ PreferencesPage::PreferencesPage(Defaults& defaults) : _defaults(defaults), _for
 void PreferencesPage::addHint(const QString& text)
 {
     auto* hint = new QLabel(text);
-    hint->setWordWrap(true);
+    // A wrapped line keeps room for another one, so that only a long text is.
+    constexpr int longest = 50; // characters
+    hint->setWordWrap(text.size() > longest);
     hint->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     _form->addRow(QString(), hint);
 }
@@ -29,9 +31,12 @@ QPushButton* PreferencesPage::makeResetButton(const QString& text, const QString
     auto* button = new QPushButton(text);
     // Return in a field is the field's.
     button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, [this, keys] {
+    connect(button, &QPushButton::clicked, this, [this, button, keys] {
+        // What is being typed is given up as well, and not stored later on.
+        button->setFocus();
         for (const auto& key : keys)
             _defaults.remove(key);
+        Q_EMIT reset();
     });
     return button;
 }

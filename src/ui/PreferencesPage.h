@@ -43,6 +43,10 @@ public:
     /// For the whole page, which is complete then: the keys come to it last.
     void addResetButton();
 
+Q_SIGNALS:
+    /// What the user has stored, or part of it, was given up.
+    void reset();
+
 private:
     Defaults& _defaults;
     QStringList _keys;

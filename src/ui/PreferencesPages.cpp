@@ -8,6 +8,7 @@
 #include "ui/Languages.h"
 #include "ui/PreferencesController.h"
 #include "ui/PreferencesPage.h"
+#include "ui/RangeLimits.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -23,6 +24,7 @@ namespace {
 
 constexpr int mostDays = 365;
 constexpr int mostBeats = 250; // no heart beats faster
+constexpr int leastBeats = 10; ///< what is left of a pulse range at least when one limit pushes the other
 
 QSpinBox* numberField(const QString& name, int least, int most)
 {
@@ -37,7 +39,7 @@ QSpinBox* numberField(const QString& name, int least, int most)
 
 } // namespace
 
-QWidget* PreferencesController::makeGeneralPage()
+PreferencesPage* PreferencesController::makeGeneralPage()
 {
     auto* page = new PreferencesPage(_defaults);
     auto& form = page->form();
@@ -59,6 +61,7 @@ QWidget* PreferencesController::makeGeneralPage()
     days->setSpecialValueText(tr("1 day"));
     enableWhile(*days, _defaults, DefaultsKeys::automaticCheck);
     form.addRow(tr("&Every:"), page->tied(days, DefaultsKeys::checkForUpdateAfterDays));
+    enableWhile(*form.labelForField(days), _defaults, DefaultsKeys::automaticCheck);
 
     auto* language = new QComboBox;
     language->addItem(tr("System language"));
@@ -72,7 +75,7 @@ QWidget* PreferencesController::makeGeneralPage()
     return page;
 }
 
-QWidget* PreferencesController::makeChartPage()
+PreferencesPage* PreferencesController::makeChartPage()
 {
     auto* page = new PreferencesPage(_defaults);
     auto* group = new QGroupBox(tr("Colours"));
@@ -112,19 +115,25 @@ QWidget* PreferencesController::makeChartPage()
     return page;
 }
 
-QWidget* PreferencesController::makePulsePage()
+PreferencesPage* PreferencesController::makePulsePage()
 {
     auto* page = new PreferencesPage(_defaults);
-    auto* least = numberField(tr("Lowest pulse of the range"), 0, mostBeats);
-    auto* most = numberField(tr("Highest pulse of the range"), 0, mostBeats);
-    // One limit takes the other along before it would pass it.
-    connect(least, &QSpinBox::valueChanged, this, [this](int pulse) {
-        if (pulse > _defaults.integerForKey(DefaultsKeys::pulseMaxPulse))
-            _defaults.setValue(DefaultsKeys::pulseMaxPulse, pulse);
+    auto* least = numberField(tr("Lowest pulse of the range"), 0, mostBeats - leastBeats);
+    auto* most = numberField(tr("Highest pulse of the range"), leastBeats, mostBeats);
+    // Each pushes the other one along; its own key is bound to it.
+    const auto limits = [this] {
+        return RangeLimits{static_cast<double>(_defaults.integerForKey(DefaultsKeys::pulseMinPulse)),
+                           static_cast<double>(_defaults.integerForKey(DefaultsKeys::pulseMaxPulse))};
+    };
+    connect(least, &QSpinBox::valueChanged, this, [this, limits](int pulse) {
+        const auto after = limits().withLow(pulse, leastBeats, mostBeats);
+        if (after.high != limits().high)
+            _defaults.setValue(DefaultsKeys::pulseMaxPulse, static_cast<int>(after.high));
     });
-    connect(most, &QSpinBox::valueChanged, this, [this](int pulse) {
-        if (pulse < _defaults.integerForKey(DefaultsKeys::pulseMinPulse))
-            _defaults.setValue(DefaultsKeys::pulseMinPulse, pulse);
+    connect(most, &QSpinBox::valueChanged, this, [this, limits](int pulse) {
+        const auto after = limits().withHigh(pulse, leastBeats, 0);
+        if (after.low != limits().low)
+            _defaults.setValue(DefaultsKeys::pulseMinPulse, static_cast<int>(after.low));
     });
     auto* range = new QHBoxLayout;
     range->addWidget(page->tied(least, DefaultsKeys::pulseMinPulse));
@@ -148,7 +157,7 @@ QWidget* PreferencesController::makePulsePage()
     return page;
 }
 
-QWidget* PreferencesController::makeDevicePage()
+PreferencesPage* PreferencesController::makeDevicePage()
 {
     auto* page = new PreferencesPage(_defaults);
     page->form().addRow(tr("Serial line:"),

@@ -1,5 +1,6 @@
 #include "tests/ui/TourWindow.h"
 #include "ui/ColourButton.h"
+#include "ui/Languages.h"
 #include "ui/PreferencesController.h"
 
 #include <QAccessible>
@@ -141,10 +142,16 @@ TEST_F(Preferences, NumbersFollowTheirKeysAndTheKeysThem)
     }
     auto& least = control<QSpinBox>(DefaultsKeys::pulseMinPulse);
     auto& most = control<QSpinBox>(DefaultsKeys::pulseMaxPulse);
+    defaults->setValue(DefaultsKeys::pulseMinPulse, 130);
+    defaults->setValue(DefaultsKeys::pulseMaxPulse, 160);
     type(least, "200");
-    EXPECT_EQ(most.value(), 200) << "one limit takes the other along";
+    EXPECT_EQ(most.value(), 230) << "one limit pushes the other, and the range stays as wide";
     type(most, "120");
-    EXPECT_EQ(defaults->integerForKey(DefaultsKeys::pulseMinPulse), 120);
+    EXPECT_EQ(defaults->integerForKey(DefaultsKeys::pulseMinPulse), 90);
+    type(least, "240");
+    EXPECT_EQ(most.value(), 250);
+    EXPECT_EQ(least.maximum(), 240) << "there is room for the other one";
+    type(most, "180");
 
     EXPECT_TRUE(panel().isVisible()) << "Return is the field's";
     most.selectAll();
@@ -169,7 +176,7 @@ TEST_F(Preferences, WhatIsChosenForChartsShowsInAnOpenOneAtOnce)
         auto& button = control<ColourButton>(key);
         chooseColour(button, QColor(255, 128, 0, 204));
         EXPECT_EQ(defaults->colourForKey(key), (ColourComponents{1, 128 / 255.0, 0, 0.8})) << qPrintable(key);
-        EXPECT_EQ(button.accessibleDescription(), QStringLiteral("#ff8000"));
+        EXPECT_EQ(button.accessibleDescription(), QStringLiteral("#ccff8000"));
     }
     EXPECT_EQ(settings.speedColor, (ColourComponents{1, 128 / 255.0, 0, 0.8}));
     defaults->setValue(DefaultsKeys::colorAltitude, ColourComponents{1, 0, 0, 1});
@@ -187,6 +194,27 @@ TEST_F(Preferences, WhatIsChosenForChartsShowsInAnOpenOneAtOnce)
     EXPECT_FALSE(panel().message().isEmpty()) << "a click elsewhere does not take it away";
     type(control<QLineEdit>(DefaultsKeys::minRange), "0");
     EXPECT_TRUE(panel().message().isEmpty());
+    for (const auto* away : {"page", "panel", "reset"}) {
+        type(control<QLineEdit>(DefaultsKeys::minRange), "deep");
+        EXPECT_FALSE(panel().message().isEmpty());
+        if (away == QByteArray("page"))
+            panel().pages().setCurrentIndex(0);
+        else if (away == QByteArray("reset"))
+            press("Reset Colours");
+        else
+            QTest::keyClick(&panel(), Qt::Key_Escape);
+        EXPECT_TRUE(panel().message().isEmpty()) << away;
+        open();
+    }
+    // What one limit makes of the other can be typed as well.
+    defaults->setValue(DefaultsKeys::useMiles, false);
+    type(control<QLineEdit>(DefaultsKeys::minRange), "9900");
+    EXPECT_EQ(control<QLineEdit>(DefaultsKeys::maxRange).text(), QStringLiteral("10000"));
+    type(control<QLineEdit>(DefaultsKeys::minRange), "9901");
+    EXPECT_EQ(panel().message(),
+              QStringLiteral("“9901” is out of range. It has to be between -1000 and 9900 m."));
+    type(control<QLineEdit>(DefaultsKeys::maxRange), "-900");
+    EXPECT_EQ(control<QLineEdit>(DefaultsKeys::minRange).text(), QStringLiteral("-1000"));
 
     press("Reset Colours");
     for (const auto& key : colours)
@@ -216,6 +244,50 @@ TEST_F(Preferences, APageGoesBackToItsDefaultsAndNoOther)
     EXPECT_EQ(control<QSpinBox>(DefaultsKeys::pulseMaxPulse).value(), 170);
 }
 
+TEST_F(Preferences, AResetGivesUpWhatIsBeingTyped)
+{
+    open();
+    auto& least = control<QSpinBox>(DefaultsKeys::pulseMinPulse);
+    least.setFocus();
+    least.selectAll();
+    QTest::keyClicks(&least, QStringLiteral("99"));
+    QTest::keyClick(&panel(), Qt::Key_D, Qt::AltModifier);
+    EXPECT_TRUE(eventually([&] { return !least.hasFocus(); })) << "a button takes a moment to be pressed";
+    EXPECT_EQ(least.value(), 130);
+    QTest::keyClick(&panel(), Qt::Key_Escape);
+    EXPECT_FALSE(defaults->isStored(DefaultsKeys::pulseMinPulse));
+}
+
+TEST_F(Preferences, ChoicesThatCannotBeStoredAreToldOf)
+{
+    open();
+    EXPECT_EQ(panel().message(), QString());
+    QFile::remove(path("settings"));
+    ASSERT_TRUE(QDir().mkpath(path("settings/in the way")));
+    defaults->setValue(DefaultsKeys::speed2ndAxis, false);
+    EXPECT_FALSE(defaults->synchronize());
+    EXPECT_EQ(panel().message(),
+              QStringLiteral("What you choose lasts until ridelog ends: %1 cannot be written.")
+                  .arg(path("settings")));
+    panel().pages().setCurrentIndex(1);
+    EXPECT_FALSE(panel().message().isEmpty());
+    ASSERT_TRUE(QDir(path("settings")).removeRecursively());
+    EXPECT_TRUE(defaults->synchronize());
+    EXPECT_EQ(panel().message(), QString());
+}
+
+TEST_F(Preferences, TheChosenLanguageIsThatOfTheWindows)
+{
+    start();
+    QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
+    for (const auto* code : {"", "xx", "en"}) {
+        defaults->setValue(DefaultsKeys::language, QString::fromLatin1(code));
+        speakChosenLanguage(*defaults);
+        EXPECT_EQ(QLocale().language(), code == QByteArray("en") ? QLocale::English : QLocale::German);
+    }
+    QLocale::setDefault(QLocale::c());
+}
+
 TEST_F(Preferences, NonsenseInTheSettingsIsSurvivedAndStays)
 {
     write("settings", "[General]\npulse_maxPulse=99999\npulse_minPulse=fast\ncolor_speed=green\n"
@@ -238,11 +310,16 @@ TEST_F(Preferences, AreOnePanelThatKnowsItsPlaceAndDoesNotKeepTheApplicationAliv
     auto& tour = TourWindow::open(tourThrough({500, 600, 550}));
     ASSERT_EQ(controller->saveDocumentAs(document(), path("tours.ridelog")), std::nullopt);
     auto& first = open();
-    first.setGeometry(120, 90, 640, 480);
-    QTest::keyClick(&first, Qt::Key_Escape);
+    // As the rider does: nobody has told the window itself.
+    first.windowHandle()->setPosition(120, 90);
+    QCoreApplication::processEvents();
+    const auto place = first.geometry();
+    EXPECT_EQ(place.topLeft(), QPoint(120, 90));
+    QTest::keyClick(&first, Qt::Key_W, Qt::ControlModifier);
     EXPECT_TRUE(first.isHidden());
     EXPECT_EQ(&openFrom(tour), &first);
     EXPECT_TRUE(first.isVisible());
+    EXPECT_EQ(first.geometry(), place);
     tour.close();
 
     QTimer tooLate;
@@ -252,7 +329,7 @@ TEST_F(Preferences, AreOnePanelThatKnowsItsPlaceAndDoesNotKeepTheApplicationAliv
     EXPECT_EQ(QApplication::exec(), 0);
     end();
     start();
-    EXPECT_EQ(open().geometry(), QRect(120, 90, 640, 480));
+    EXPECT_EQ(open().geometry(), place);
 }
 
 TEST_F(Preferences, EachControlHasALetterOfItsOwnANameAndATabStop)

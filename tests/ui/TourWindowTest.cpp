@@ -265,7 +265,7 @@ TEST_F(TourWindow, TheManualRangeIsThatOfAllCharts)
     EXPECT_EQ(shown.maxRangeTextField().text(), QStringLiteral("1000"));
     type(shown.maxRangeTextField(), "10001");
     EXPECT_EQ(shown.message(),
-              QStringLiteral("“10001” is no altitude: it has to be between -1000 and 10000 m"));
+              QStringLiteral("“10001” is out of range. It has to be between -900 and 10000 m."));
     type(shown.minRangeTextField(), "1200");
     EXPECT_EQ(shown.maxRangeTextField().text(), QStringLiteral("2200")) << "the other limit goes along";
     type(shown.maxRangeTextField(), "1000");
