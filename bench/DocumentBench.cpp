@@ -15,6 +15,7 @@
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
+#include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -286,9 +287,10 @@ int main(int argc, char** argv)
     const auto merged = report.ratioOf("Merge", "MergeHalf", promisedMerge);
     const auto first = report.medianOf("FirstStatistics");
     const auto statistics = first / (static_cast<double>(tours) * (samples + 1)) * 1e6;
-    std::printf(
-        "FirstStatistics: %.2f ms per 1,000,000 series entries (at most %.0f), %.2f x PassOverSeries\n",
-        statistics, promisedStatistics, first / report.medianOf("PassOverSeries"));
+    std::printf("FirstStatistics: %.2f ms per 1,000,000 series entries (at most %.0f)\n", statistics,
+                promisedStatistics);
+    if (const auto pass = report.medianOf("PassOverSeries"); std::isfinite(pass))
+        std::printf("FirstStatistics: %.2f x PassOverSeries\n", first / pass);
     return open <= promisedOpen && save <= promisedSave && storedForm <= promisedStoredForm &&
                    merged <= promisedMerge && memoryRatio <= promisedMemory &&
                    statistics <= promisedStatistics

@@ -7,7 +7,9 @@
 #include <QCommandLineParser>
 #include <QMap>
 
+#include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace ridelog {
 namespace {
@@ -30,10 +32,16 @@ QString programHelp()
     return text;
 }
 
-/// The text as options and arguments stand in a help: the word, then what it means.
-QString helpLine(const QString& word, const QString& meaning)
+/// Options and arguments as they stand in a help: the word, then what it means.
+QString helpLines(const QList<std::pair<QString, QString>>& words)
 {
-    return QStringLiteral("  %1  %2\n").arg(word.leftJustified(16), meaning);
+    qsizetype widest = 0;
+    for (const auto& [word, meaning] : words)
+        widest = std::max(widest, word.size());
+    QString text;
+    for (const auto& [word, meaning] : words)
+        text += QStringLiteral("  %1  %2\n").arg(word.leftJustified(widest), meaning);
+    return text;
 }
 
 QCommandLineOption helpOption()
@@ -62,19 +70,20 @@ QCommandLineOption milesOption()
 
 QString commandHelp(const Command& command)
 {
-    QString text = QStringLiteral("Usage: %1 %2 %3\n\n%4\n\n")
-                       .arg(programName, command.name(), command.synopsis(), command.description());
+    QList<std::pair<QString, QString>> words;
     for (const auto& argument : command.arguments())
-        text += helpLine(argument.name, argument.description);
+        words << std::pair(argument.name, argument.description);
     for (const auto& option :
          command.options() + QList{milesOption(), nowOption(), logOption(), helpOption()}) {
         const auto name = option.names().constFirst();
         auto word = (name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name;
         if (!option.valueName().isEmpty())
             word += u' ' + option.valueName();
-        text += helpLine(word, option.description());
+        words << std::pair(word, option.description());
     }
-    return text;
+    return QStringLiteral("Usage: %1 %2 %3\n\n%4\n\n")
+               .arg(programName, command.name(), command.synopsis(), command.description()) +
+           helpLines(words);
 }
 
 std::optional<LogLevel> logLevelOf(const QString& name)

@@ -18,13 +18,12 @@ const QString jsonName = QStringLiteral("json");
 
 const QString dateForm = QStringLiteral("yyyy-MM-dd");
 
-/// The start of the day in this time zone; none for something that is no day.
-std::optional<QDateTime> dateOf(const QString& text, const QTimeZone& zone)
+/// None for something that is no day.
+std::optional<QDateTime> dateOf(const QString& text)
 {
     const auto day = QDate::fromString(text, dateForm);
-    return day.isValid()
-               ? std::optional(CalendarDate::fromFields(day.year(), day.month(), day.day(), 0, 0, 0, zone))
-               : std::nullopt;
+    // In a time zone that skips no day; only the day counts.
+    return day.isValid() && day.year() >= 1 ? std::optional(day.startOfDay(Qt::UTC)) : std::nullopt;
 }
 
 std::optional<WeekRule> weekRuleOf(const QString& text)
@@ -99,7 +98,7 @@ ExitStatus StatsCommand::execute(const CommandContext& context) const
 {
     auto date = std::optional(context.now);
     if (context.options.isSet(dateName))
-        date = dateOf(context.options.value(dateName), context.now.timeZone());
+        date = dateOf(context.options.value(dateName));
     if (!date)
         return wrongWords(*this, QStringLiteral("--date takes a day like 2007-03-15"));
     auto weekRule = std::optional(WeekRule::ofLocale(QLocale()));

@@ -13,7 +13,7 @@ constexpr auto left = TextTable::Align::left;
 
 QString text(const std::optional<QDateTime>& date)
 {
-    return date ? date->toString(QStringLiteral("yyyy-MM-dd")) : QStringLiteral("–");
+    return date ? date->date().toString(Qt::ISODate) : QStringLiteral("–");
 }
 
 QString hoursAndMinutes(double seconds)

@@ -152,6 +152,7 @@ TEST_F(StatsCommand, WrongWordsAndFilesAreRefusedInOneLine)
         {"--date 2007-02-29", file, 2, "--date takes a day like 2007-03-15 "},
         {"--date 2007-03-15T12:00", file, 2, "--date takes a day"},
         {"--date=", file, 2, "--date takes a day"},
+        {"--date=-2007-03-15", file, 2, "--date takes a day"},
         {"--week-start friday", file, 2, "--week-start takes sunday or monday "},
         {"", QString(), 2, "FILE is missing"},
         {"", path("missing"), 1, "missing: No such file or directory"},
