@@ -2,6 +2,8 @@
 
 #include <QFormLayout>
 
+#include <algorithm>
+
 namespace ridelog {
 
 StatValuesView::StatValuesView(QWidget* parent) : ValuesArea(parent)
@@ -23,6 +25,13 @@ void StatValuesView::showValues(const std::vector<StatValue>& values)
         ++row;
     }
     updateGeometry();
+}
+
+QSize StatValuesView::minimumSizeHint() const
+{
+    const auto needed = ValuesArea::minimumSizeHint();
+    _widest = std::max(_widest, needed.width());
+    return {_widest, needed.height()};
 }
 
 } // namespace ridelog

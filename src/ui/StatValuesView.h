@@ -18,9 +18,13 @@ public:
     /// They may be other ones the next time, but as many.
     void showValues(const std::vector<StatValue>& values);
 
+    /// As wide as the values have ever been: what stands beside them does not move when one gets shorter.
+    QSize minimumSizeHint() const override;
+
 private:
     QFormLayout* _form;
     std::vector<ValueRow> _rows; ///< in the order of the values
+    mutable int _widest = 0;
 };
 
 } // namespace ridelog

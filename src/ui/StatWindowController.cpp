@@ -28,7 +28,6 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <utility>
 
 namespace ridelog {
@@ -265,8 +264,6 @@ void StatWindowController::refresh()
     }
     for (const auto period : allPeriods)
         _values[indexOf(period)]->showValues(statValues(*_odoStat, period, _defaults));
-    // The chart does not move when a number is shorter than the one before.
-    _pages->setMinimumWidth(std::max(_pages->minimumWidth(), _pages->minimumSizeHint().width()));
     refreshChart();
     update();
 }

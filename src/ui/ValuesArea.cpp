@@ -1,5 +1,6 @@
 #include "ui/ValuesArea.h"
 
+#include <QEvent>
 #include <QFormLayout>
 #include <QLabel>
 #include <QScrollBar>
@@ -17,11 +18,13 @@ void ValuesArea::setContent(QWidget& content)
     follow(0, verticalScrollBar()->maximum());
 }
 
-void ValuesArea::showEvent(QShowEvent* event)
+bool ValuesArea::eventFilter(QObject* watched, QEvent* event)
 {
-    QScrollArea::showEvent(event);
-    // Only what is shown has its style, and with it the room that it takes.
-    updateGeometry();
+    const bool isHandled = QScrollArea::eventFilter(watched, event);
+    // The values need another room, as soon as they are shown, or when others are.
+    if (watched == widget() && event->type() == QEvent::LayoutRequest)
+        updateGeometry();
+    return isHandled;
 }
 
 QSize ValuesArea::minimumSizeHint() const

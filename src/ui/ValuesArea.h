@@ -22,7 +22,7 @@ public:
 protected:
     /// It owns the content.
     void setContent(QWidget& content);
-    void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 };
 
 /// A value, and its name before it. The value can be selected, with the mouse and with keys.

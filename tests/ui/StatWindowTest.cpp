@@ -429,6 +429,28 @@ TEST_F(StatWindow, WritesNumbersAsTheLocaleDoesButWithoutGroups)
     QLocale::setDefault(QLocale::c());
 }
 
+TEST_F(StatWindow, NoValueIsCutOff)
+{
+    Tours tours;
+    for (int i = 0; i < 20; ++i)
+        tours.push_back(Ride{.start = berlin(2003, 2, 13 + i), .entries = 9'000, .metres = 200'000}.tour());
+    auto& shown = openWith(tours, berlin(2007, 3, 13));
+    const auto hasRoom = [&shown](const char* key) {
+        const auto& field = shown.field(Period::all, key);
+        const auto* viewport = field.parentWidget()->parentWidget();
+        return field.width() >= field.sizeHint().width() &&
+               field.mapTo(viewport, field.rect().bottomRight()).x() <= viewport->width();
+    };
+    const auto expectRoom = [&hasRoom](const char* when) {
+        for (const auto* key : {"distance", "duration", "averageSpeed", "heartBeats", "firstTour"})
+            EXPECT_TRUE(eventually([&] { return hasRoom(key); })) << when << key;
+    };
+    expectRoom("at first: ");
+    shown.resize(shown.minimumSizeHint());
+    QCoreApplication::processEvents();
+    expectRoom("as small as can be: ");
+}
+
 TEST_F(StatWindow, NoTwoActionsShareALetterOrAKey)
 {
     start();
