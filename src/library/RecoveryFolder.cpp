@@ -98,7 +98,7 @@ std::optional<QString> writeFile(const QString& path, const ByteSource& content,
                                  const std::atomic_bool& wanted)
 {
     WholeFile file(path, QString(), onlyThisUserFile);
-    if (auto error = file.write(content))
+    if (auto error = file.write(content, [&wanted] { return wanted.load(); }))
         return error;
     if (!wanted)
         return std::nullopt;
@@ -203,13 +203,7 @@ std::optional<QString> RecoveryFolder::write(const ByteSource& content, const Re
     const auto old = copyName();
     const auto number = QFileInfo(old).baseName().toUInt() + 1;
     const auto name = QString::number(number) + copySuffix;
-    const auto whileWanted = [&](const ByteSink& sink) {
-        content([&](QByteArrayView bytes) {
-            if (wanted)
-                sink(bytes);
-        });
-    };
-    auto error = writeFile(filePath(name), whileWanted, wanted);
+    auto error = writeFile(filePath(name), content, wanted);
     if (!error && wanted)
         error = writeFacts(facts, name);
     if (copyName() != name)

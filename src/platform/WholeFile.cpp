@@ -28,6 +28,35 @@ QString inFolder(const QString& error)
     return QStringLiteral("nothing can be written in its folder: ") + error;
 }
 
+using Move = bool (*)(const QByteArray& from, const QByteArray& to);
+
+bool replace(const QByteArray& from, const QByteArray& to)
+{
+    return ::rename(from.constData(), to.constData()) == 0;
+}
+
+/// EEXIST if something has the name.
+bool takeFreeName(const QByteArray& from, const QByteArray& to)
+{
+    if (::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0)
+        return true;
+    // Not every file system can do it at once. Those that cannot have links, as a rule.
+    if (errno != EINVAL && errno != ENOSYS)
+        return false;
+    if (::link(from.constData(), to.constData()) == 0) {
+        ::unlink(from.constData());
+        return true;
+    }
+    if (errno == EEXIST)
+        return false;
+    struct stat found {};
+    if (::lstat(to.constData(), &found) == 0) {
+        errno = EEXIST;
+        return false;
+    }
+    return replace(from, to);
+}
+
 } // namespace
 
 /// The new file; gone again unless it was put in place.
@@ -66,14 +95,14 @@ public:
     }
 
     /// Writes all that the content gives and forces it to the disk. None, or what went wrong.
-    std::optional<QString> write(const ByteSource& content)
+    std::optional<QString> write(const ByteSource& content, const std::function<bool()>& isWanted)
     {
         std::optional<QString> error;
         content([&](QByteArrayView bytes) {
-            if (!error && !write(bytes))
+            if (!error && isWanted() && !write(bytes))
                 error = systemError();
         });
-        if (!error && uninterrupted([&] { return ::fsync(_descriptor); }) != 0)
+        if (!error && isWanted() && uninterrupted([&] { return ::fsync(_descriptor); }) != 0)
             error = systemError();
         return error;
     }
@@ -90,14 +119,13 @@ public:
     }
 
     /// Answers what the file system says of the new file, if all went well.
-    std::optional<struct stat> putInPlaceOf(const QByteArray& path)
+    std::optional<struct stat> moveTo(const QByteArray& path, Move move)
     {
         // Interrupted or not, the descriptor is gone, and the bytes were on the disk before.
         const bool closed = ::close(std::exchange(_descriptor, -1)) == 0 || errno == EINTR;
         // Asked now: there are file servers that set a file's time when it is closed.
         struct stat state {};
-        if (!closed || ::stat(_name.constData(), &state) != 0 ||
-            ::rename(_name.constData(), path.constData()) != 0)
+        if (!closed || ::stat(_name.constData(), &state) != 0 || !move(_name, path))
             return std::nullopt;
         _name.clear();
         return state;
@@ -135,7 +163,7 @@ WholeFile::~WholeFile()
         ::close(_folderDescriptor);
 }
 
-std::optional<QString> WholeFile::write(ByteSource content)
+std::optional<QString> WholeFile::write(ByteSource content, std::function<bool()> isWanted)
 {
     // The new file takes the place of the old one, which must not happen to a device or a pipe.
     if (auto reason = whyNoFile(QFile::decodeName(_name)))
@@ -150,19 +178,30 @@ std::optional<QString> WholeFile::write(ByteSource content)
     if (_folderDescriptor < 0)
         return inFolder(systemError());
     _content = std::move(content);
+    _isWanted = std::move(isWanted);
     const auto error = makeNewFile(Kind::unnamed);
     return _newFile ? error : makeNewFile(Kind::named);
 }
 
 std::optional<QString> WholeFile::putInPlaceOf(const QByteArray& name)
 {
+    return moveTo(name, replace);
+}
+
+std::optional<QString> WholeFile::putInFreePlace()
+{
+    return moveTo(_name, takeFreeName);
+}
+
+std::optional<QString> WholeFile::moveTo(const QByteArray& name, Move move)
+{
     if (!_newFile->giveName(_passing)) {
         if (auto error = makeNewFile(Kind::named))
             return error;
     }
-    const auto state = _newFile->putInPlaceOf(name);
+    const auto state = _newFile->moveTo(name, move);
     if (!state)
-        return systemError();
+        return errno == EEXIST ? QStringLiteral("it is there already") : systemError();
     _state = *state;
     return std::nullopt;
 }
@@ -178,7 +217,7 @@ std::optional<QString> WholeFile::makeNewFile(Kind kind)
     }
     if (_old && !_newFile->takeAttributesOf(*_old))
         return systemError();
-    return _newFile->write(_content);
+    return _newFile->write(_content, _isWanted);
 }
 
 std::optional<QString> WholeFile::forceFolder()

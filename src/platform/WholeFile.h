@@ -32,10 +32,16 @@ public:
 
     /// Makes the new file: its bytes are on the disk then, and the old file is as it was. `content` gives
     /// them to its sink, the same each time it is called, which may be again when the file is put in place.
-    std::optional<QString> write(ByteSource content);
+    /// Once `isWanted` says no, nothing more is written or forced to the disk: the new file is not to be put
+    /// in place then.
+    std::optional<QString> write(
+        ByteSource content, std::function<bool()> isWanted = [] { return true; });
     /// The new file takes the old one's place, or that of whatever has another name in the same folder.
     std::optional<QString> putInPlace() { return putInPlaceOf(_name); }
     std::optional<QString> putInPlaceOf(const QByteArray& name);
+    /// The new file takes a place that is free. Refused if anything has the name by now, however late it
+    /// came.
+    std::optional<QString> putInFreePlace();
     /// What the file system says of the file that was put in place, whoever has replaced it since.
     const struct stat& state() const { return _state; }
     /// Makes sure that what took place in the folder survives a power failure.
@@ -47,6 +53,7 @@ private:
     /// such files.
     enum class Kind { unnamed, named };
     std::optional<QString> makeNewFile(Kind kind);
+    std::optional<QString> moveTo(const QByteArray& name, bool (*move)(const QByteArray&, const QByteArray&));
 
     QByteArray _name;
     QByteArray _folder;
@@ -54,6 +61,7 @@ private:
     mode_t _permissions;
     int _folderDescriptor = -1;
     ByteSource _content;
+    std::function<bool()> _isWanted;
     std::optional<struct stat> _old;
     struct stat _state {};
     std::unique_ptr<NewFile> _newFile;

@@ -124,5 +124,42 @@ TEST_F(WholeFileTest, KeepsAFileUnderAnotherName)
     }
 }
 
+TEST_F(WholeFileTest, TakesAFreePlaceAndNoOther)
+{
+    const ByteSource content = [](const ByteSink& sink) { sink("new"); };
+    for (const auto knows : {FailingDisk::FileSystem{},
+                             {.unnamedFiles = false},
+                             {.freeNames = false},
+                             {.hardLinks = false, .freeNames = false}}) {
+        const FailingDisk disk(path(), knows);
+        WholeFile late(path("file"));
+        WholeFile first(path("file"));
+        EXPECT_EQ(late.write(content), std::nullopt);
+        EXPECT_EQ(first.write([](const ByteSink& sink) { sink("first"); }), std::nullopt);
+        EXPECT_EQ(first.putInFreePlace(), std::nullopt);
+        EXPECT_EQ(late.putInFreePlace(), QStringLiteral("it is there already"));
+        EXPECT_EQ(read("file"), "first");
+        QFile::remove(path("file"));
+    }
+    EXPECT_EQ(names(), QStringList()) << "nothing is left of the other";
+}
+
+TEST_F(WholeFileTest, WritesNothingMoreOfAFileThatIsNotWanted)
+{
+    FailingDisk disk(path(), {});
+    {
+        WholeFile file(path("file"));
+        bool isWanted = true;
+        const auto content = [&isWanted](const ByteSink& sink) {
+            sink("some");
+            isWanted = false;
+            sink("more");
+        };
+        EXPECT_EQ(file.write(content, [&isWanted] { return isWanted; }), std::nullopt);
+    }
+    EXPECT_EQ(disk.calls(), (std::vector{Call::open, Call::open, Call::write, Call::close}));
+    EXPECT_EQ(names(), QStringList());
+}
+
 } // namespace
 } // namespace ridelog

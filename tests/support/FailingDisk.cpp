@@ -99,6 +99,7 @@ int __real_close(int descriptor);
 int __real_link(const char* oldPath, const char* newPath);
 int __real_linkat(int oldFolder, const char* oldPath, int newFolder, const char* newPath, int flags);
 int __real_rename(const char* oldPath, const char* newPath);
+int __real_renameat2(int oldFolder, const char* oldPath, int newFolder, const char* newPath, unsigned flags);
 
 int __wrap_open(const char* path, int flags, ...)
 {
@@ -180,6 +181,17 @@ int __wrap_rename(const char* oldPath, const char* newPath)
 {
     auto* on = FailingDisk::of(newPath);
     return on && on->fails(Call::rename) ? -1 : __real_rename(oldPath, newPath);
+}
+
+int __wrap_renameat2(int oldFolder, const char* oldPath, int newFolder, const char* newPath, unsigned flags)
+{
+    auto* on = FailingDisk::of(newPath);
+    if (on && !on->knows().freeNames) {
+        errno = EINVAL;
+        return -1;
+    }
+    return on && on->fails(Call::rename) ? -1
+                                         : __real_renameat2(oldFolder, oldPath, newFolder, newPath, flags);
 }
 
 } // extern "C"

@@ -21,6 +21,7 @@ public:
     struct FileSystem {
         bool unnamedFiles = true;
         bool hardLinks = true;
+        bool freeNames = true; ///< a renaming that replaces nothing
     };
 
     FailingDisk(const QString& folder, FileSystem knows);
