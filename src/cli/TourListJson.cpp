@@ -31,19 +31,11 @@ std::optional<TourListJson> TourListJson::fromOptions(const QCommandLineParser& 
 ExitStatus TourListJson::print(const TourSource& source, const Tours& tours) const
 {
     return printJson([&](JsonWriter& json) {
-        json.beginObject();
-        json.key(u"generalData");
-        json.beginObject();
-        for (const auto& [name, number] : source.generalData)
-            json.entry(name, number);
-        json.endObject();
-        json.key(u"tours");
-        json.beginArray();
+        beginTourList(json, source.generalData);
         int number = 0;
         for (const auto& tour : tours)
             writeTour(json, *tour, ++number, _parts);
-        json.endArray();
-        json.endObject();
+        endTourList(json);
     });
 }
 

@@ -72,4 +72,22 @@ void writeTour(JsonWriter& json, const OdoTour& tour, int number, TourJsonParts 
     json.endObject();
 }
 
+void beginTourList(JsonWriter& json, const std::vector<std::pair<QString, std::int32_t>>& generalData)
+{
+    json.beginObject();
+    json.key(u"generalData");
+    json.beginObject();
+    for (const auto& [name, number] : generalData)
+        json.entry(name, number);
+    json.endObject();
+    json.key(u"tours");
+    json.beginArray();
+}
+
+void endTourList(JsonWriter& json)
+{
+    json.endArray();
+    json.endObject();
+}
+
 } // namespace ridelog

@@ -1,10 +1,10 @@
 #include "platform/JsonWriter.h"
 
 #include "platform/CalendarDate.h"
+#include "platform/NumberText.h"
 
 #include <QIODevice>
 
-#include <charconv>
 #include <cmath>
 
 namespace ridelog {
@@ -20,9 +20,9 @@ QByteArray shortest(Number number)
         if (!std::isfinite(number))
             return QByteArrayLiteral("null");
     }
-    char text[32];
-    const auto end = std::to_chars(std::begin(text), std::end(text), number).ptr;
-    return {text, end - text};
+    QByteArray text;
+    appendShortest(text, number);
+    return text;
 }
 
 } // namespace

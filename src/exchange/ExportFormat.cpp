@@ -1,0 +1,26 @@
+#include "exchange/ExportFormat.h"
+
+#include "exchange/JsonFormat.h"
+#include "exchange/SamplesCsvFormat.h"
+#include "exchange/SummaryCsvFormat.h"
+
+#include <algorithm>
+
+namespace ridelog {
+
+ExportFormats exportFormats(const Defaults&)
+{
+    ExportFormats formats;
+    formats.push_back(std::make_unique<SamplesCsvFormat>());
+    formats.push_back(std::make_unique<SummaryCsvFormat>());
+    formats.push_back(std::make_unique<JsonFormat>());
+    return formats;
+}
+
+const ExportFormat* formatNamed(const ExportFormats& formats, const QString& name)
+{
+    const auto found = std::ranges::find(formats, name, [](const auto& format) { return format->name(); });
+    return found == formats.end() ? nullptr : found->get();
+}
+
+} // namespace ridelog

@@ -1,0 +1,59 @@
+#include "exchange/RecordedValues.h"
+
+#include <algorithm>
+
+namespace ridelog {
+
+std::optional<std::int32_t> recordedPulse(std::int32_t beatsPerMinute)
+{
+    return beatsPerMinute == 0 ? std::nullopt : std::optional(beatsPerMinute);
+}
+
+bool hasCadence(const OdoTour& tour)
+{
+    return std::ranges::any_of(tour.data(), [](const SeriesEntry& entry) { return entry.cadence != 0; });
+}
+
+bool hasTemperature(const OdoTour& tour)
+{
+    return !tour.tourData().empty();
+}
+
+QDateTime timeOf(const OdoTour& tour, const SeriesEntry& entry)
+{
+    return tour.date().addSecs(entry.time);
+}
+
+QByteArray utcText(const QDateTime& date)
+{
+    return date.toUTC().toString(Qt::ISODate).toLatin1();
+}
+
+QByteArray zonedText(const QDateTime& date)
+{
+    // Of a date in a zone the toolkit's form leaves out the offset; of one with an offset it has it.
+    return date.toOffsetFromUtc(date.offsetFromUtc()).toString(Qt::ISODate).toLatin1();
+}
+
+QString exchangeText(const QString& text)
+{
+    const auto isKept = [&text](qsizetype i) {
+        const auto character = text[i];
+        if (character.isHighSurrogate())
+            return i + 1 < text.size() && text[i + 1].isLowSurrogate();
+        if (character.isLowSurrogate())
+            return i > 0 && text[i - 1].isHighSurrogate();
+        const auto code = character.unicode();
+        return (code >= 0x20 || code == u'\t' || code == u'\n' || code == u'\r') && code != 0xFFFE &&
+               code != 0xFFFF;
+    };
+    QString kept;
+    kept.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (isKept(i))
+            kept += text[i];
+    }
+    return kept;
+}
+
+} // namespace ridelog

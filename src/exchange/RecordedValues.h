@@ -1,0 +1,33 @@
+#pragma once
+
+#include "model/OdoTour.h"
+
+#include <QDateTime>
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+
+namespace ridelog {
+
+// What a tour's numbers say that other programs must not misread: a zero that means "not recorded".
+
+/// None for 0, which a device without a belt records.
+std::optional<std::int32_t> recordedPulse(std::int32_t beatsPerMinute);
+/// Whether a sensor has told the cadence: without one every entry has 0.
+bool hasCadence(const OdoTour& tour);
+/// Whether the temperatures are the device's: a tour without samples has none.
+bool hasTemperature(const OdoTour& tour);
+
+/// The instant of a series entry.
+QDateTime timeOf(const OdoTour& tour, const SeriesEntry& entry);
+/// "2007-03-10T07:00:00Z".
+QByteArray utcText(const QDateTime& date);
+/// "2007-03-10T08:00:00+01:00".
+QByteArray zonedText(const QDateTime& date);
+
+/// The text without characters that XML, and with it most programs, do not take: control characters and
+/// halves of pairs.
+QString exchangeText(const QString& text);
+
+} // namespace ridelog
