@@ -3,6 +3,7 @@
 #include "cli/ChartCommand.h"
 #include "cli/CheckUpdateCommand.h"
 #include "cli/EditCommand.h"
+#include "cli/ExportCommand.h"
 #include "cli/ImportCommand.h"
 #include "cli/InspectCommand.h"
 #include "cli/ListCommand.h"
@@ -44,6 +45,7 @@ const std::vector<std::unique_ptr<const Command>>& allCommands()
         list.push_back(std::make_unique<EditCommand>());
         list.push_back(std::make_unique<StatsCommand>());
         list.push_back(std::make_unique<ChartCommand>());
+        list.push_back(std::make_unique<ExportCommand>());
         list.push_back(std::make_unique<PortsCommand>());
         list.push_back(std::make_unique<ReceiveCommand>());
         list.push_back(std::make_unique<MakeDumpCommand>());

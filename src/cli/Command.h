@@ -38,14 +38,14 @@ public:
     struct Argument {
         QString name;
         QString description;
-        bool repeats = false; ///< may be given several times; only the last one may
+        bool repeats = false;  ///< may be given several times; only the last one may
+        bool optional = false; ///< may be left out; only the last one may
     };
 
     virtual ~Command() = default;
 
     virtual QString name() const = 0;
     virtual QString description() const = 0;
-    /// All of them have to be given.
     virtual QList<Argument> arguments() const { return {}; }
     /// What its usage line shows behind its name.
     virtual QString synopsis() const = 0;

@@ -68,13 +68,18 @@ QCommandLineOption milesOption()
     return {QStringLiteral("miles"), QStringLiteral("Shows miles, mph and feet. JSON stays metric.")};
 }
 
+/// The command's own, and those that every command takes.
+QList<QCommandLineOption> optionsOf(const Command& command)
+{
+    return command.options() + QList{milesOption(), nowOption(), logOption(), helpOption()};
+}
+
 QString commandHelp(const Command& command)
 {
     QList<std::pair<QString, QString>> words;
     for (const auto& argument : command.arguments())
         words << std::pair(argument.name, argument.description);
-    for (const auto& option :
-         command.options() + QList{milesOption(), nowOption(), logOption(), helpOption()}) {
+    for (const auto& option : optionsOf(command)) {
         const auto name = option.names().constFirst();
         auto word = (name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name;
         if (!option.valueName().isEmpty())
@@ -114,6 +119,8 @@ std::optional<QDateTime> localTimeOf(const QString& text)
 std::optional<QString> faultOf(const QStringList& given, const QList<Command::Argument>& wanted)
 {
     for (qsizetype i = 0; i < wanted.size(); ++i) {
+        if (wanted[i].optional && i >= given.size())
+            return std::nullopt;
         if (given.value(i).isEmpty())
             return QStringLiteral("%1 is missing").arg(wanted[i].name);
     }
@@ -125,11 +132,21 @@ std::optional<QString> faultOf(const QStringList& given, const QList<Command::Ar
     return std::nullopt;
 }
 
+/// What is told twice may be told differently, and only the last would count.
+std::optional<QString> faultOf(const QCommandLineParser& parser, const QList<QCommandLineOption>& options)
+{
+    for (const auto& option : options) {
+        if (parser.values(option).size() > 1)
+            return QStringLiteral("--%1 stands there twice").arg(option.names().constLast());
+    }
+    return std::nullopt;
+}
+
 ExitStatus runCommand(const Command& command, const QStringList& words)
 {
     QCommandLineParser parser;
-    parser.addOptions(command.options());
-    parser.addOptions({logOption(), nowOption(), milesOption(), helpOption()});
+    const auto options = optionsOf(command);
+    parser.addOptions(options);
     if (!parser.parse(words)) {
         auto error = parser.errorText();
         if (error.endsWith(u'.'))
@@ -138,6 +155,8 @@ ExitStatus runCommand(const Command& command, const QStringList& words)
     }
     if (parser.isSet(QStringLiteral("help")))
         return print(commandHelp(command));
+    if (const auto fault = faultOf(parser, options))
+        return wrongWords(command, *fault);
 
     const auto level = logLevelOf(parser.value(QStringLiteral("log")));
     if (!level)
