@@ -8,6 +8,11 @@
 
 namespace ridelog {
 
+QString ExportFormat::refusal(const Tours&) const
+{
+    return {};
+}
+
 ExportFormats exportFormats(const Defaults&)
 {
     ExportFormats formats;

@@ -78,6 +78,9 @@ public:
     /// What the name of a file of all tours ends with, before its ending.
     virtual QString suffix() const { return {}; }
 
+    /// Why there can be no file of these tours in this format, in words for people; empty if there can.
+    virtual QString refusal(const Tours& tours) const;
+
     /// Writes a file of these tours, in this order: one at least, and only one where a file holds no more.
     /// The same bytes each time.
     virtual void write(const Tours& tours, const ExportSource& source, const ExportSink& sink) const = 0;

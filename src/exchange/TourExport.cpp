@@ -143,7 +143,9 @@ TourExport::Outcome TourExport::write(Existing existing, const GoesOn& goesOn) c
                               return isWanted;
                           }));
         };
-        const auto error = writeFile(file, content, existing, isWanted);
+        const auto refusal = _format.refusal(file.tours);
+        const auto error =
+            refusal.isEmpty() ? writeFile(file, content, existing, isWanted) : std::optional(refusal);
         before += file.tours.size();
         if (error) {
             outcome.failures.push_back({file.path, *error});

@@ -48,8 +48,8 @@ public:
         std::vector<Failure> failures = {};
         bool wasStopped = false;
     };
-    /// Writes all files, in order; makes the folder if it is not there. A file that cannot be written is a
-    /// failure, and the others are written nevertheless.
+    /// Writes all files, in order; makes the folder if it is not there. A file that cannot be written, or
+    /// that the format cannot hold, is a failure, and the others are written nevertheless.
     Outcome write(Existing existing, const GoesOn& goesOn) const;
 
 private:
