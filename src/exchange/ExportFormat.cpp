@@ -1,5 +1,6 @@
 #include "exchange/ExportFormat.h"
 
+#include "exchange/FitFormat.h"
 #include "exchange/JsonFormat.h"
 #include "exchange/SamplesCsvFormat.h"
 #include "exchange/SummaryCsvFormat.h"
@@ -16,6 +17,7 @@ QString ExportFormat::refusal(const Tours&) const
 ExportFormats exportFormats(const Defaults&)
 {
     ExportFormats formats;
+    formats.push_back(std::make_unique<FitFormat>());
     formats.push_back(std::make_unique<SamplesCsvFormat>());
     formats.push_back(std::make_unique<SummaryCsvFormat>());
     formats.push_back(std::make_unique<JsonFormat>());

@@ -139,7 +139,8 @@ public:
     std::optional<float> maxTemperature() const { return _calculatedValues.maxTemp; }
     std::optional<float> minTemperature() const { return _calculatedValues.minTemp; }
 
-    std::int32_t elevationGain() const;
+    std::int32_t elevationGain() const; ///< metres of the climbs of more than 3 m
+    std::int32_t elevationLoss() const; ///< metres of the descents of more than 3 m; not kept in the cache
     std::int32_t climbingCount() const;
     std::int32_t descendingCount() const;
     float maxClimbingDistance() const;

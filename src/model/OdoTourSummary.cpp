@@ -214,6 +214,11 @@ std::int32_t OdoTour::elevationGain() const
     });
 }
 
+std::int32_t OdoTour::elevationLoss() const
+{
+    return static_cast<std::int32_t>(runsExceeding(3, _data, Direction::down).metres);
+}
+
 std::int32_t OdoTour::climbingCount() const
 {
     return cached(_calculatedValues.climbingCount,
