@@ -17,15 +17,31 @@ install_packages() {
     "${apt_get[@]}" install -y --no-install-recommends "$@"
 }
 
-# prepare run|test: installs the packages that are missing, on Debian and its relatives.
-# Elsewhere nothing can be installed under these names, and configure says what is missing.
-prepare() {
-    has apt-get || return 0
+# The published form of the Training Center's files, which is part of a package that is not installed. Where it cannot
+# be had, the tests that need it say so.
+fetch_schema() {
+    local schema=build/schemas/TrainingCenterDatabasev2.xsd
+    [[ ! -e $schema ]] || return 0
+    local folder
+    folder=$(mktemp -d) || return 0
+    # Whole or not at all: a test may be looking for it.
+    (
+        cd -- "$folder" &&
+            timeout 60 apt-get -qq -o Acquire::Retries=0 -o Acquire::http::Timeout=10 download pytrainer &&
+            dpkg-deb --extract pytrainer_*.deb .
+    ) >/dev/null 2>&1 &&
+        mkdir -p "${schema%/*}" &&
+        cp -- "$folder/usr/share/pytrainer/schemas/GarminTrainingCenterDatabase_v2.xsd" "$schema.$$" &&
+        mv -- "$schema.$$" "$schema" ||
+        echo "The schema of the Training Center's files cannot be fetched" >&2
+    rm -rf -- "$folder"
+}
 
+install_missing() {
     local packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev tzdata)
     if [[ $1 == test ]]; then
         packages+=(qt6-charts-dev libqt6opengl6-dev libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev
-            xvfb openbox xdotool fonts-dejavu-core)
+            xvfb openbox xdotool fonts-dejavu-core libxml2-utils gpsbabel python3)
     fi
 
     local missing
@@ -42,6 +58,14 @@ apt-get update && apt-get install --no-install-recommends ${missing[*]}" >&2
     exit 1
 }
 
+# prepare run|test: installs the packages that are missing, on Debian and its relatives.
+# Elsewhere nothing can be installed under these names, and configure says what is missing.
+prepare() {
+    has apt-get || return 0
+    install_missing "$1"
+    [[ $1 != test ]] || fetch_schema
+}
+
 # configure PRESET: quiet unless something is wrong.
 configure() {
     cmake --preset "$1" >/dev/null && return
@@ -52,6 +76,7 @@ and tested with
   GoogleTest 1.12, Google Benchmark 1.7, Qt Charts as what benchmarks compare with
   clang 14 with its sanitizer libraries, clang-format 14, clang-tidy 14
   Xvfb, openbox, xdotool and the DejaVu fonts, for a desktop that nobody sees
+  xmllint, gpsbabel and Python 3, which read what is exported
 or newer." >&2
     exit 1
 }

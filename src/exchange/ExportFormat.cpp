@@ -4,6 +4,7 @@
 #include "exchange/JsonFormat.h"
 #include "exchange/SamplesCsvFormat.h"
 #include "exchange/SummaryCsvFormat.h"
+#include "exchange/TcxFormat.h"
 
 #include <algorithm>
 
@@ -17,6 +18,7 @@ QString ExportFormat::refusal(const Tours&) const
 ExportFormats exportFormats(const Defaults&)
 {
     ExportFormats formats;
+    formats.push_back(std::make_unique<TcxFormat>());
     formats.push_back(std::make_unique<FitFormat>());
     formats.push_back(std::make_unique<SamplesCsvFormat>());
     formats.push_back(std::make_unique<SummaryCsvFormat>());

@@ -82,7 +82,7 @@ public:
     virtual QString refusal(const Tours& tours) const;
 
     /// Writes a file of these tours, in this order: one at least, and only one where a file holds no more.
-    /// The same bytes each time.
+    /// The same bytes each time. Not for tours that are refused.
     virtual void write(const Tours& tours, const ExportSource& source, const ExportSink& sink) const = 0;
 };
 

@@ -1,6 +1,7 @@
 #include "exchange/RecordedValues.h"
 
 #include <algorithm>
+#include <chrono>
 
 namespace ridelog {
 
@@ -26,7 +27,32 @@ QDateTime timeOf(const OdoTour& tour, const SeriesEntry& entry)
 
 QByteArray utcText(const QDateTime& date)
 {
-    return date.toUTC().toString(Qt::ISODate).toLatin1();
+    std::string text;
+    appendUtcText(text, date.toSecsSinceEpoch());
+    return QByteArray::fromStdString(text);
+}
+
+void appendUtcText(std::string& text, qint64 instant)
+{
+    // A file of all tours has an instant for each of their samples: with the toolkit's dates they would take
+    // most of the time.
+    using namespace std::chrono;
+    const sys_seconds point{seconds(instant)};
+    const auto midnight = floor<days>(point);
+    const year_month_day date(midnight);
+    const hh_mm_ss time(point - midnight);
+    char form[] = "0000-00-00T00:00:00Z";
+    const auto put = [&form](int number, int lastDigit) {
+        for (; number > 0; number /= 10)
+            form[lastDigit--] = static_cast<char>('0' + number % 10);
+    };
+    put(static_cast<int>(date.year()), 3);
+    put(static_cast<int>(static_cast<unsigned>(date.month())), 6);
+    put(static_cast<int>(static_cast<unsigned>(date.day())), 9);
+    put(static_cast<int>(time.hours().count()), 12);
+    put(static_cast<int>(time.minutes().count()), 15);
+    put(static_cast<int>(time.seconds().count()), 18);
+    text += form;
 }
 
 QByteArray zonedText(const QDateTime& date)

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
 namespace ridelog {
 
@@ -21,8 +22,10 @@ bool hasTemperature(const OdoTour& tour);
 
 /// The instant of a series entry.
 QDateTime timeOf(const OdoTour& tour, const SeriesEntry& entry);
-/// "2007-03-10T07:00:00Z".
+/// "2007-03-10T07:00:00Z". Here and below for the years 1 to 9999 only.
 QByteArray utcText(const QDateTime& date);
+/// The same, appended, of an instant in seconds since 1970.
+void appendUtcText(std::string& text, qint64 instant);
 /// "2007-03-10T08:00:00+01:00".
 QByteArray zonedText(const QDateTime& date);
 
