@@ -1,13 +1,7 @@
 #include "chart/BarScaling.h"
 
-#include "format/TimeFormatter.h"
-
-#include <QLocale>
-
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <limits>
 #include <utility>
 
 namespace ridelog {
@@ -21,60 +15,12 @@ constexpr double gapBetweenLabels = 6;
 constexpr double barPart = 0.7; ///< of its column
 constexpr double widestBar = 64;
 
-constexpr double secondsPerMinute = 60;
-constexpr double secondsPerHour = 3600;
-
 /// No rider comes as far, and any number of them is still one that can be divided.
 constexpr double mostValue = 1e15;
 
 double shown(double value)
 {
     return value > 0 ? std::min(value, mostValue) : 0.0;
-}
-
-/// The first of 1, 2, 5, 10, 20, 50 and so on, or of their tenths, that is not less.
-double roundStep(double least)
-{
-    const auto power = std::pow(10.0, std::floor(std::log10(least)));
-    for (const double factor : {1.0, 2.0, 5.0}) {
-        if (factor * power >= least)
-            return factor * power;
-    }
-    return 10 * power;
-}
-
-double roundSeconds(double least)
-{
-    for (const double minutes : {1.0, 2.0, 5.0, 10.0, 15.0, 30.0}) {
-        if (minutes * secondsPerMinute >= least)
-            return minutes * secondsPerMinute;
-    }
-    return roundStep(std::max(least / secondsPerHour, 1.0)) * secondsPerHour;
-}
-
-/// Between two tics; what is less cannot be told apart by its label.
-double ticStep(BarChart::Values values, double least)
-{
-    switch (values) {
-    case BarChart::Values::wholeNumbers:
-        return roundStep(std::max(least, 1.0));
-    case BarChart::Values::seconds:
-        return roundSeconds(least);
-    case BarChart::Values::numbers:
-        break;
-    }
-    return roundStep(std::max(least, 0.1));
-}
-
-QString ticLabel(BarChart::Values values, double value, double step)
-{
-    constexpr double longest = 1e9;
-    if (values == BarChart::Values::seconds)
-        return TimeFormatter::text(
-            static_cast<int>(std::min(value, static_cast<double>(std::numeric_limits<int>::max()))));
-    auto locale = QLocale();
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    return value >= longest ? locale.toString(value, 'g', 3) : locale.toString(value, 'f', step < 1 ? 1 : 0);
 }
 
 } // namespace

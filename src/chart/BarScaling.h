@@ -1,6 +1,7 @@
 #pragma once
 
 #include "chart/ChartScaling.h"
+#include "format/AxisTics.h"
 
 #include <QColor>
 #include <QPointF>
@@ -18,8 +19,7 @@ struct BarChart {
         QString label;    ///< below it
         double value = 0; ///< what is negative or no number counts as 0
     };
-    /// How the axis is labelled.
-    enum class Values { numbers, wholeNumbers, seconds };
+    using Values = AxisValues;
 
     QString title; ///< above the bars: what they stand for
     std::vector<Bar> bars = {};

@@ -2,7 +2,7 @@
 
 #include "library/AppController.h"
 #include "platform/Defaults.h"
-#include "ui/Counted.h"
+#include "format/Counted.h"
 #include "ui/MainWindowController.h"
 #include "ui/PreferencesController.h"
 #include "ui/Sheet.h"

@@ -5,7 +5,7 @@
 #include "platform/Defaults.h"
 #include "ui/ApplicationWindows.h"
 #include "ui/ConnectView.h"
-#include "ui/Counted.h"
+#include "format/Counted.h"
 #include "ui/MainWindowController.h"
 #include "ui/NumberedEntry.h"
 #include "ui/SimulatedDevice.h"

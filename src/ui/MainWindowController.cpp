@@ -8,7 +8,7 @@
 #include "platform/Defaults.h"
 #include "ui/ApplicationWindows.h"
 #include "ui/ConnectView.h"
-#include "ui/Counted.h"
+#include "format/Counted.h"
 #include "ui/ElidedLabel.h"
 #include "ui/EmptyDocumentView.h"
 #include "ui/FileDrop.h"

@@ -2,7 +2,7 @@
 
 #include "library/AppController.h"
 #include "ui/ApplicationWindows.h"
-#include "ui/Counted.h"
+#include "format/Counted.h"
 #include "ui/MainWindowController.h"
 #include "ui/Sheet.h"
 #include "ui/TourTableView.h"

@@ -1,13 +1,13 @@
 // What is done with the tours of the table.
 
+#include "exchange/TourTexts.h"
 #include "library/MyDocument.h"
 #include "ui/ApplicationWindows.h"
-#include "ui/Counted.h"
+#include "format/Counted.h"
 #include "ui/MainWindowController.h"
 #include "ui/StatWindowController.h"
 #include "ui/TourPage.h"
 #include "ui/TourTableView.h"
-#include "ui/TourTexts.h"
 #include "ui/TourWindowController.h"
 #include "ui/UiLog.h"
 

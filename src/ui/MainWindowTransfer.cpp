@@ -7,7 +7,7 @@
 #include "ui/ApplicationWindows.h"
 #include "ui/BusySpinner.h"
 #include "ui/ConnectView.h"
-#include "ui/Counted.h"
+#include "format/Counted.h"
 #include "ui/MainWindowController.h"
 
 #include <QAction>

@@ -1,26 +1,12 @@
 #include "ui/SampleTableModel.h"
 
-#include "format/ReadableUnits.h"
-#include "format/TimeFormatter.h"
-#include "format/UnitFormatters.h"
-#include "library/DefaultsKeys.h"
-#include "platform/Defaults.h"
-#include "ui/TourTexts.h"
-
-#include <QLocale>
-
 #include <utility>
 
 namespace ridelog {
 
 SampleTableModel::SampleTableModel(std::shared_ptr<const OdoTour> tour, const Defaults& defaults,
                                    QObject* parent)
-    : QAbstractTableModel(parent),
-      _tour(std::move(tour)),
-      _defaults(defaults),
-      _distance(UnitFormatters::tourDistance(defaults)),
-      _speed(UnitFormatters::tourSpeed(defaults)),
-      _altitude(UnitFormatters::altitude(defaults))
+    : QAbstractTableModel(parent), _tour(std::move(tour)), _defaults(defaults), _texts(defaults)
 {
 }
 
@@ -31,7 +17,7 @@ int SampleTableModel::rowCount(const QModelIndex& parent) const
 
 int SampleTableModel::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : columns;
+    return parent.isValid() ? 0 : sampleColumns;
 }
 
 const SeriesEntry& SampleTableModel::entryAt(int row) const
@@ -42,36 +28,15 @@ const SeriesEntry& SampleTableModel::entryAt(int row) const
 QVariant SampleTableModel::data(const QModelIndex& index, int role) const
 {
     if (role == Qt::DisplayRole)
-        return text(index.column(), entryAt(index.row()));
+        return text(index.row(), static_cast<SampleColumn>(index.column()));
     if (role == Qt::TextAlignmentRole)
         return QVariant(Qt::AlignRight | Qt::AlignVCenter);
     return {};
 }
 
-QString SampleTableModel::text(int column, const SeriesEntry& entry) const
+QString SampleTableModel::text(int row, SampleColumn column) const
 {
-    switch (column) {
-    case time:
-        return TimeFormatter().stringForObjectValue(entry.time);
-    case distance:
-        return _distance.stringForObjectValue(entry.distance);
-    case altitude:
-        return _altitude.stringForObjectValue(entry.altitude);
-    case speed:
-        return _speed.stringForObjectValue(entry.speed);
-    case pulse:
-        return QLocale().toString(entry.pulse);
-    case power:
-        return QLocale().toString(entry.power);
-    case grade:
-        return gradeText(entry.climbingPercentage);
-    case temperature:
-        return QLocale().toString(entry.temperature);
-    case cadence:
-        return QLocale().toString(entry.cadence);
-    default:
-        return {};
-    }
+    return _texts.text(column, entryAt(row));
 }
 
 QVariant SampleTableModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -82,38 +47,19 @@ QVariant SampleTableModel::headerData(int section, Qt::Orientation orientation, 
         return QVariant(Qt::AlignRight | Qt::AlignVCenter);
     if (role != Qt::DisplayRole)
         return {};
-    switch (section) {
-    case time:
-        return tr("Time");
-    case distance:
-        return tr("Distance");
-    case altitude:
-        return tr("Altitude (%1)")
-            .arg(ReadableUnits(_defaults.boolForKey(DefaultsKeys::useMiles)).altitudeUnit());
-    case speed:
-        return tr("Speed");
-    case pulse:
-        return tr("Pulse");
-    case power:
-        return tr("Power (W)");
-    case grade:
-        return tr("Grade (%)");
-    case temperature:
-        return tr("Temperature (°C)");
-    case cadence:
-        return tr("Cadence");
-    default:
-        return {};
-    }
+    return name(static_cast<SampleColumn>(section));
+}
+
+QString SampleTableModel::name(SampleColumn column) const
+{
+    return _texts.name(column);
 }
 
 void SampleTableModel::reformat()
 {
-    _distance = UnitFormatters::tourDistance(_defaults);
-    _speed = UnitFormatters::tourSpeed(_defaults);
-    _altitude = UnitFormatters::altitude(_defaults);
-    Q_EMIT headerDataChanged(Qt::Horizontal, 0, columns - 1);
-    Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columns - 1));
+    _texts = SampleTexts(_defaults);
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, sampleColumns - 1);
+    Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, sampleColumns - 1));
 }
 
 } // namespace ridelog

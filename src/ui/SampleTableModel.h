@@ -1,6 +1,6 @@
 #pragma once
 
-#include "format/MultipFormatter.h"
+#include "exchange/SampleTexts.h"
 #include "model/OdoTour.h"
 
 #include <QAbstractTableModel>
@@ -11,13 +11,12 @@ namespace ridelog {
 
 class Defaults;
 
-/// The samples of a tour for a table, one row for each entry of its series, by time.
+/// The samples of a tour for a table, one row for each entry of its series, by time. The columns are those of
+/// SampleColumn.
 class SampleTableModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    enum Column { time, distance, altitude, speed, pulse, power, grade, temperature, cadence, columns };
-
     /// `defaults` have to outlive it.
     SampleTableModel(std::shared_ptr<const OdoTour> tour, const Defaults& defaults,
                      QObject* parent = nullptr);
@@ -28,17 +27,15 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
     const SeriesEntry& entryAt(int row) const;
+    QString text(int row, SampleColumn column) const;
+    QString name(SampleColumn column) const;
     /// For the units that the user has chosen now.
     void reformat();
 
 private:
-    QString text(int column, const SeriesEntry& entry) const;
-
     std::shared_ptr<const OdoTour> _tour;
     const Defaults& _defaults;
-    MultipFormatter _distance;
-    MultipFormatter _speed;
-    MultipFormatter _altitude;
+    SampleTexts _texts;
 };
 
 } // namespace ridelog

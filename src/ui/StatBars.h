@@ -1,23 +1,15 @@
 #pragma once
 
 #include "chart/BarScaling.h"
+#include "exchange/StatQuantity.h"
 #include "model/PeriodParts.h"
 
-#include <array>
 #include <optional>
 #include <vector>
 
 namespace ridelog {
 
 class Defaults;
-
-/// What a chart of statistics shows.
-enum class StatQuantity { distance, duration, elevationGain, heartBeats };
-
-inline constexpr std::array allStatQuantities{StatQuantity::distance, StatQuantity::duration,
-                                              StatQuantity::elevationGain, StatQuantity::heartBeats};
-
-QString nameOf(StatQuantity quantity);
 
 /// The parts of a period as bars of one quantity, in the units and the colours that the user has chosen.
 class StatBars {

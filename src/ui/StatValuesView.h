@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/StatValues.h"
+#include "exchange/StatValues.h"
 #include "ui/ValuesArea.h"
 
 #include <vector>

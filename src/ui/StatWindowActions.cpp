@@ -1,12 +1,12 @@
 // Menus of the statistics window, and what they do.
 
 #include "chart/BarChartView.h"
+#include "exchange/StatValues.h"
 #include "ui/ApplicationWindows.h"
 #include "ui/ChartSaving.h"
 #include "ui/MenuEntries.h"
 #include "ui/PeriodStepper.h"
 #include "ui/SegmentedControl.h"
-#include "ui/StatValues.h"
 #include "ui/StatWindowController.h"
 #include "ui/WindowMenu.h"
 

@@ -2,6 +2,7 @@
 
 #include "chart/BarChartView.h"
 #include "chart/ChartSettings.h"
+#include "exchange/TourTexts.h"
 #include "library/DefaultsKeys.h"
 #include "library/MyDocument.h"
 #include "platform/Defaults.h"
@@ -11,7 +12,6 @@
 #include "ui/PeriodStepper.h"
 #include "ui/SegmentedControl.h"
 #include "ui/StatValuesView.h"
-#include "ui/TourTexts.h"
 #include "ui/UiLog.h"
 #include "ui/WindowFrame.h"
 #include "ui/WindowTitle.h"

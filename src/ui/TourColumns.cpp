@@ -1,12 +1,12 @@
 #include "ui/TourColumns.h"
 
+#include "exchange/TourTexts.h"
 #include "format/ReadableUnits.h"
 #include "format/TimeFormatter.h"
 #include "format/UnitFormatters.h"
 #include "library/DefaultsKeys.h"
 #include "library/TourSorting.h"
 #include "platform/Defaults.h"
-#include "ui/TourTexts.h"
 
 #include <QCoreApplication>
 #include <QLocale>

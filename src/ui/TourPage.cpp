@@ -2,13 +2,13 @@
 
 #include "chart/ChartArrayView.h"
 #include "chart/ChartDrawing.h"
+#include "exchange/TourSummary.h"
+#include "exchange/TourTexts.h"
 #include "library/FileOfTours.h"
 #include "model/OdoTour.h"
 #include "platform/WholeFile.h"
 #include "ui/ElidedLabel.h"
 #include "ui/StyledTextConversion.h"
-#include "ui/TourSummary.h"
-#include "ui/TourTexts.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>

@@ -1,6 +1,6 @@
 #include "ui/TourSummaryView.h"
 
-#include "ui/TourSummary.h"
+#include "exchange/TourSummary.h"
 
 #include <QFormLayout>
 #include <QGroupBox>

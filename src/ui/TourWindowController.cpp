@@ -210,7 +210,7 @@ void TourWindowController::makeDataDrawer()
     _dataTable->installEventFilter(this);
     auto& header = *_dataTable->horizontalHeader();
     header.setHighlightSections(false);
-    for (int column = 0; column < SampleTableModel::columns; ++column)
+    for (int column = 0; column < sampleColumns; ++column)
         header.resizeSection(column, std::max(header.defaultSectionSize(), header.sectionSizeHint(column)));
     connect(_dataTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &TourWindowController::tableViewSelectionDidChange);

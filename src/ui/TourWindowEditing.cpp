@@ -1,10 +1,10 @@
 // What the rider changes in a tour window.
 
+#include "exchange/TourTexts.h"
 #include "library/MyDocument.h"
 #include "ui/AltitudeRange.h"
 #include "ui/DescriptionEdit.h"
 #include "ui/ElidedLabel.h"
-#include "ui/TourTexts.h"
 #include "ui/TourWindowController.h"
 #include "ui/UiLog.h"
 #include "ui/WindowTitle.h"

@@ -1,8 +1,8 @@
 // What of a tour window goes to files and paper.
 
+#include "exchange/TourTexts.h"
 #include "ui/ChartSaving.h"
 #include "ui/TourPage.h"
-#include "ui/TourTexts.h"
 #include "ui/TourWindowController.h"
 #include "ui/UiLog.h"
 

@@ -1,10 +1,10 @@
 // The samples of a tour: the table, the mark in the chart, the values under the mouse.
 
+#include "exchange/TourSummary.h"
 #include "model/SeriesNames.h"
-#include "ui/Counted.h"
+#include "format/Counted.h"
 #include "ui/ElidedLabel.h"
 #include "ui/SampleTableModel.h"
-#include "ui/TourSummary.h"
 #include "ui/TourWindowController.h"
 #include "ui/UiLog.h"
 
@@ -165,12 +165,10 @@ void TourWindowController::showReadout(std::optional<int> index)
 {
     QStringList values;
     if (index) {
-        for (const auto column : {SampleTableModel::time, SampleTableModel::distance,
-                                  SampleTableModel::altitude, SampleTableModel::speed,
-                                  SampleTableModel::pulse, SampleTableModel::grade, SampleTableModel::power})
-            values << QStringLiteral("%1: %2").arg(
-                _samples->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(),
-                _samples->index(*index, column).data().toString());
+        for (const auto column :
+             {SampleColumn::time, SampleColumn::distance, SampleColumn::altitude, SampleColumn::speed,
+              SampleColumn::pulse, SampleColumn::grade, SampleColumn::power})
+            values << QStringLiteral("%1: %2").arg(_samples->name(column), _samples->text(*index, column));
     }
     _readout->setText(values.join(QStringLiteral("   ")));
 }
@@ -193,7 +191,7 @@ void TourWindowController::copySamples()
     QStringList lines;
     const auto addLine = [&lines](const auto& textOf) {
         QStringList cells;
-        for (int column = 0; column < SampleTableModel::columns; ++column)
+        for (int column = 0; column < sampleColumns; ++column)
             cells << textOf(column);
         lines << cells.join(u'\t');
     };

@@ -119,7 +119,7 @@ TEST_F(TourWindowOutput, PicturesGetTheEndingOfTheirType)
         Q_EMIT panel.filterSelected(QStringLiteral("PNG (*.png)"));
         panel.findChild<QDialogButtonBox*>()->buttons().constFirst()->click();
     });
-    EXPECT_TRUE(QFileInfo::exists(path() + u'/' + day + QStringLiteral("Mt. Ventoux   St. Gallen.png")));
+    EXPECT_TRUE(QFileInfo::exists(path() + u'/' + day + QStringLiteral("Mt. Ventoux St. Gallen.png")));
     saveChart(shown, [&](SaveChartPanel& panel) { accept(panel, path("at 1.5 bar")); });
     EXPECT_TRUE(read("at 1.5 bar.jpeg").startsWith("\xff\xd8"));
 }

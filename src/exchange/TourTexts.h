@@ -9,7 +9,8 @@ namespace ridelog {
 
 class OdoTour;
 
-// What windows write of a tour beside what has a pattern of its own. Values are without their units.
+// What windows and reports write of a tour beside what has a pattern of its own. Values are without their
+// units.
 
 /// Empty for 0, which a device without a belt records.
 QString pulseText(float beatsPerMinute);

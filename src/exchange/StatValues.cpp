@@ -1,11 +1,11 @@
-#include "ui/StatValues.h"
+#include "exchange/StatValues.h"
 
+#include "exchange/TourTexts.h"
 #include "format/ReadableUnits.h"
 #include "format/TimeFormatter.h"
 #include "format/UnitFormatters.h"
 #include "library/DefaultsKeys.h"
 #include "platform/Defaults.h"
-#include "ui/TourTexts.h"
 
 #include <QCoreApplication>
 #include <QLocale>

@@ -1,9 +1,9 @@
-#include "ui/TourTexts.h"
+#include "exchange/TourTexts.h"
 
 #include "model/OdoTour.h"
+#include "platform/FileName.h"
 
 #include <QLocale>
-#include <QRegularExpression>
 
 namespace ridelog {
 
@@ -53,12 +53,7 @@ QString startAndType(const OdoTour& tour)
 
 QString fileNameOf(const OdoTour& tour)
 {
-    constexpr qsizetype longest = 60;
-    static const QRegularExpression unusual(QStringLiteral("[/\\\\:*?\"<>|\\x00-\\x1f]+"));
-    auto title = tour.shownTitle().left(longest).replace(unusual, QStringLiteral(" "));
-    if (!title.isEmpty() && title.back().isHighSurrogate())
-        title.chop(1);
-    return (tour.date().toString(QStringLiteral("yyyy-MM-dd ")) + title).trimmed();
+    return safeFileName(tour.date().toString(QStringLiteral("yyyy-MM-dd ")) + tour.shownTitle()).simplified();
 }
 
 } // namespace ridelog

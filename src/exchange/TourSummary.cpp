@@ -1,12 +1,12 @@
-#include "ui/TourSummary.h"
+#include "exchange/TourSummary.h"
 
+#include "exchange/TourTexts.h"
 #include "format/ReadableUnits.h"
 #include "format/TimeFormatter.h"
 #include "format/UnitFormatters.h"
 #include "library/DefaultsKeys.h"
 #include "model/OdoTour.h"
 #include "platform/Defaults.h"
-#include "ui/TourTexts.h"
 
 #include <QCoreApplication>
 #include <QLocale>
