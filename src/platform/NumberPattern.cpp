@@ -22,12 +22,6 @@ QStringList sectionsOf(const QString& pattern)
     return sections;
 }
 
-QString localDigit(char digit, const QLocale& locale)
-{
-    const char32_t code = locale.zeroDigit().toUcs4().first() + static_cast<char32_t>(digit - '0');
-    return QString::fromUcs4(&code, 1);
-}
-
 } // namespace
 
 NumberPattern::NumberPattern(const QString& pattern)
@@ -95,8 +89,13 @@ QString NumberPattern::Section::text(const std::string& digits, const QLocale& l
 {
     auto text = before;
     if (hasNumber) {
-        for (const char digit : digits)
-            text += digit == '.' ? locale.decimalPoint() : localDigit(digit, locale);
+        const auto zero = locale.zeroDigit().toUcs4().first();
+        for (const char digit : digits) {
+            if (digit == '.')
+                text += locale.decimalPoint();
+            else
+                text += QChar::fromUcs4(zero + static_cast<char32_t>(digit - '0'));
+        }
     }
     return text + after;
 }
