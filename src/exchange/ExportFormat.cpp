@@ -1,6 +1,7 @@
 #include "exchange/ExportFormat.h"
 
 #include "exchange/FitFormat.h"
+#include "exchange/HtmlFormat.h"
 #include "exchange/JsonFormat.h"
 #include "exchange/SamplesCsvFormat.h"
 #include "exchange/SummaryCsvFormat.h"
@@ -15,7 +16,7 @@ QString ExportFormat::refusal(const Tours&) const
     return {};
 }
 
-ExportFormats exportFormats(const Defaults&)
+ExportFormats exportFormats(const Defaults& defaults)
 {
     ExportFormats formats;
     formats.push_back(std::make_unique<TcxFormat>());
@@ -23,6 +24,7 @@ ExportFormats exportFormats(const Defaults&)
     formats.push_back(std::make_unique<SamplesCsvFormat>());
     formats.push_back(std::make_unique<SummaryCsvFormat>());
     formats.push_back(std::make_unique<JsonFormat>());
+    formats.push_back(std::make_unique<HtmlFormat>(defaults));
     return formats;
 }
 
