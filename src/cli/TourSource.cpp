@@ -1,25 +1,11 @@
 #include "cli/TourSource.h"
 
 #include "decode/OdoData.h"
+#include "library/GeneralDataOrder.h"
 #include "library/MyDocument.h"
 
 namespace ridelog {
 namespace {
-
-std::vector<std::pair<QString, std::int32_t>> inOrderOfTheDevice(GeneralData numbers)
-{
-    std::vector<std::pair<QString, std::int32_t>> ordered;
-    for (const auto& field : DumpLayout::generalDataFields) {
-        const auto number = numbers.constFind(field.name.toString());
-        if (number == numbers.constEnd())
-            continue;
-        ordered.emplace_back(number.key(), *number);
-        numbers.erase(number);
-    }
-    for (auto number = numbers.constBegin(); number != numbers.constEnd(); ++number)
-        ordered.emplace_back(number.key(), *number);
-    return ordered;
-}
 
 TourSource readDocument(const QString& path, const QDateTime& now)
 {

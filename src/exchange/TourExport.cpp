@@ -1,5 +1,6 @@
 #include "exchange/TourExport.h"
 
+#include "library/FileOfTours.h"
 #include "platform/FileName.h"
 
 #include <QDir>
@@ -83,6 +84,8 @@ std::optional<QString> writeFile(const ExportFile& file, const ByteSource& conte
     const bool replaces = file.isThere && existing == TourExport::Existing::replace;
     if (file.isThere && !replaces)
         return QStringLiteral("it is there already");
+    if (replaces && holdsTours(file.path))
+        return QStringLiteral("it holds tours, which an export would replace");
     WholeFile whole(file.path);
     if (auto error = whole.write(content, [&isWanted] { return isWanted; }))
         return error;
@@ -95,9 +98,15 @@ std::optional<QString> writeFile(const ExportFile& file, const ByteSource& conte
 
 } // namespace
 
+TourExport::TourExport(const ExportFormat& format, ExportSource source, const QString& folder,
+                       std::size_t tours)
+    : _format(format), _source(std::move(source)), _folder(folder), _countTours(tours)
+{
+}
+
 TourExport::TourExport(const ExportFormat& format, ExportSource source, const Tours& tours,
                        const QString& folder, Layout layout)
-    : _format(format), _source(std::move(source)), _folder(folder), _countTours(tours.size())
+    : TourExport(format, std::move(source), folder, tours.size())
 {
     const QDir in(folder);
     const auto pathOf = [&](const QString& name) { return in.filePath(name + u'.' + format.ending()); };
@@ -111,6 +120,14 @@ TourExport::TourExport(const ExportFormat& format, ExportSource source, const To
     UniqueNames names;
     for (const auto& tour : tours)
         addFile(pathOf(names.take(nameOf(*tour))), {tour});
+}
+
+TourExport TourExport::toFile(const ExportFormat& format, ExportSource source, const Tours& tours,
+                              const QString& path)
+{
+    TourExport whole(format, std::move(source), QFileInfo(path).path(), tours.size());
+    whole.addFile(path, tours);
+    return whole;
 }
 
 void TourExport::addFile(const QString& path, Tours tours)

@@ -28,6 +28,10 @@ public:
     /// count. `format` has to outlive the export.
     TourExport(const ExportFormat& format, ExportSource source, const Tours& tours, const QString& folder,
                Layout layout);
+    /// All tours in a file of this path, whatever the format would call it. For a format whose files may hold
+    /// several tours.
+    static TourExport toFile(const ExportFormat& format, ExportSource source, const Tours& tours,
+                             const QString& path);
 
     const std::vector<ExportFile>& files() const { return _files; }
     std::size_t countTours() const { return _countTours; }
@@ -49,10 +53,12 @@ public:
         bool wasStopped = false;
     };
     /// Writes all files, in order; makes the folder if it is not there. A file that cannot be written, or
-    /// that the format cannot hold, is a failure, and the others are written nevertheless.
+    /// that the format cannot hold, is a failure, and the others are written nevertheless. No file of tours,
+    /// be it a document or a dump, is replaced.
     Outcome write(Existing existing, const GoesOn& goesOn) const;
 
 private:
+    TourExport(const ExportFormat& format, ExportSource source, const QString& folder, std::size_t tours);
     void addFile(const QString& path, Tours tours);
 
     const ExportFormat& _format;

@@ -2,6 +2,8 @@
 
 #include "platform/Defaults.h"
 
+#include <QStandardPaths>
+
 namespace ridelog::DefaultsKeys {
 
 QString tourWindowFrame(const QString& tourDescription)
@@ -45,6 +47,9 @@ void registerApplicationDefaults(Defaults& defaults)
         {checkForUpdateAfterDays, 7},
         {automaticCheck, true},
         {useMiles, false},
+        {exportFormat, QStringLiteral("tcx")},
+        {exportFolder, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)},
+        {exportTogether, false},
     });
 }
 

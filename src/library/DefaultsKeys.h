@@ -50,6 +50,11 @@ inline const QString maxRange = QStringLiteral("maxRange");                     
 inline const QString pictureWidth = QStringLiteral("pictureWidth");   ///< float: pixels
 inline const QString pictureHeight = QStringLiteral("pictureHeight"); ///< float: pixels
 
+// Export
+inline const QString exportFormat = QStringLiteral("exportFormat");     ///< text: name of a format, "tcx"
+inline const QString exportFolder = QStringLiteral("exportFolder");     ///< text: path of the folder
+inline const QString exportTogether = QStringLiteral("exportTogether"); ///< bool: all tours in one file
+
 // Statistics window
 inline const QString statTabViewIdentifier = QStringLiteral("statTabViewIdentifier"); ///< text: the tab shown
 inline const QString odoStatDate =

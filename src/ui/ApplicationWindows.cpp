@@ -1,8 +1,8 @@
 #include "ui/ApplicationWindows.h"
 
+#include "format/Counted.h"
 #include "library/AppController.h"
 #include "platform/Defaults.h"
-#include "format/Counted.h"
 #include "ui/MainWindowController.h"
 #include "ui/PreferencesController.h"
 #include "ui/Sheet.h"

@@ -1,11 +1,11 @@
 // Menus, tool bar and what they do.
 
+#include "format/Counted.h"
 #include "library/AppController.h"
 #include "library/DefaultsKeys.h"
 #include "platform/Defaults.h"
 #include "ui/ApplicationWindows.h"
 #include "ui/ConnectView.h"
-#include "format/Counted.h"
 #include "ui/MainWindowController.h"
 #include "ui/NumberedEntry.h"
 #include "ui/SimulatedDevice.h"
@@ -84,6 +84,7 @@ void MainWindowController::makeFileMenu()
     connect(_recentMenu, &QMenu::aboutToShow, this, &Window::fillRecentMenu);
     menu.addSeparator();
     _importAction = addAction(menu, tr("&Import Dump…"), Qt::CTRL | Qt::Key_I, &Window::importFile);
+    _exportAction = addAction(menu, tr("&Export…"), Qt::CTRL | Qt::Key_E, &Window::exportTours);
     menu.addSeparator();
     _saveAction = addAction(menu, tr("&Save"), QKeySequence::Save, &Window::saveDocument);
     addAction(menu, tr("Save &As…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S, &Window::saveDocumentAs);

@@ -1,6 +1,7 @@
 #include "ui/MainWindowController.h"
 
 #include "chart/ChartArrayView.h"
+#include "format/Counted.h"
 #include "format/ReadableUnits.h"
 #include "format/UnitFormatters.h"
 #include "library/DefaultsKeys.h"
@@ -8,7 +9,6 @@
 #include "platform/Defaults.h"
 #include "ui/ApplicationWindows.h"
 #include "ui/ConnectView.h"
-#include "format/Counted.h"
 #include "ui/ElidedLabel.h"
 #include "ui/EmptyDocumentView.h"
 #include "ui/FileDrop.h"
@@ -37,6 +37,7 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <numeric>
 #include <utility>
 
@@ -317,12 +318,18 @@ QString MainWindowController::documentName() const
     return _untitledNumber == 1 ? tr("Untitled") : tr("Untitled %1").arg(_untitledNumber);
 }
 
-/// The document as windows are titled with it.
-QString MainWindowController::shownName() const
+QString MainWindowController::nameWithoutEnding() const
 {
     auto name = documentName();
     if (name.endsWith(u'.' + MyDocument::extension))
         name.chop(1 + MyDocument::extension.size());
+    return name;
+}
+
+/// The document as windows are titled with it.
+QString MainWindowController::shownName() const
+{
+    const auto name = nameWithoutEnding();
     return _document.isReadOnly() ? tr("%1 (read-only)").arg(name) : name;
 }
 
@@ -342,6 +349,9 @@ void MainWindowController::enableActions()
     const auto removed = removedInSelection();
     _removeAction->setEnabled(removed < static_cast<qsizetype>(_tourController.selectedRows().size()));
     _restoreAction->setEnabled(removed > 0);
+    const bool isAnyToExport =
+        std::ranges::any_of(_document.toursArray(), [](const auto& tour) { return !tour->removed(); });
+    _exportAction->setEnabled(isAnyToExport);
     const bool isOne = _tourController.selectedTour() != nullptr;
     for (auto* action : {_editTitleAction, _openTourAction, _printAction})
         action->setEnabled(isOne);

@@ -37,6 +37,8 @@ class StatWindowController;
 class TourTableModel;
 class TourTableView;
 class TourWindowController;
+struct ChosenPeriod;
+struct ExportSource;
 
 /// The main window of one document: its tours in a table, the chart of the selected one, and the transfer
 /// from the device.
@@ -71,6 +73,9 @@ public:
     void importDump(const QString& path) { importDumps({path}); }
     /// Asks for a raw dump to import.
     void importFile();
+
+    /// Asks for what of its tours is to be exported, and where.
+    void exportTours();
 
     /// Opens a further window of the selected tour.
     void showSummaryWindow();
@@ -136,6 +141,7 @@ private:
     void configureFormatters();
     void showTours();
     void showSummary();
+    QString nameWithoutEnding() const;
     QString shownName() const;
     void showTitle();
     void enableActions();
@@ -167,6 +173,13 @@ private:
     void showRemoved(bool show);
     void editTitle();
     qsizetype removedInSelection() const;
+
+    // Files for other programs
+    Tours toursToExport() const;
+    ExportSource exportSource() const;
+    void exportTour(TourWindowController& window);
+    void saveReport(const ChosenPeriod& period);
+    QWidget* exportingWindow();
 
     // The transfer
     void connectToOdo(bool connected);
@@ -221,6 +234,7 @@ private:
     QAction* _stopTransferAction = nullptr;
     QAction* _simulatedDeviceAction = nullptr;
     QAction* _importAction = nullptr;
+    QAction* _exportAction = nullptr;
     QAction* _saveAction = nullptr;
     QAction* _revertAction = nullptr;
     QAction* _removeAction = nullptr;

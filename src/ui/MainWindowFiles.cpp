@@ -1,8 +1,8 @@
 // The document's file, and dumps.
 
+#include "format/Counted.h"
 #include "library/AppController.h"
 #include "ui/ApplicationWindows.h"
-#include "format/Counted.h"
 #include "ui/MainWindowController.h"
 #include "ui/Sheet.h"
 #include "ui/TourTableView.h"
@@ -228,8 +228,9 @@ bool MainWindowController::mayClose()
 
 void MainWindowController::closeEvent(QCloseEvent* event)
 {
-    if (_isAsking) {
-        ApplicationWindows::bringToFront(*this);
+    auto* busy = _isAsking ? this : exportingWindow();
+    if (busy) {
+        ApplicationWindows::bringToFront(*busy);
         event->ignore();
         return;
     }

@@ -1,9 +1,9 @@
 // What is done with the tours of the table.
 
 #include "exchange/TourTexts.h"
+#include "format/Counted.h"
 #include "library/MyDocument.h"
 #include "ui/ApplicationWindows.h"
-#include "format/Counted.h"
 #include "ui/MainWindowController.h"
 #include "ui/StatWindowController.h"
 #include "ui/TourPage.h"
@@ -35,6 +35,7 @@ void MainWindowController::showSummaryWindow()
         if (save() && window)
             window->showMessage(message());
     });
+    connect(window, &TourWindowController::exportRequested, this, [this, window] { exportTour(*window); });
     window->show();
 }
 
@@ -71,6 +72,7 @@ void MainWindowController::showStatWindow()
     if (!_swc) {
         _swc = new StatWindowController(_windows, _document, _defaults);
         connect(_swc, &StatWindowController::activated, this, &MainWindowController::activated);
+        connect(_swc, &StatWindowController::reportRequested, this, &MainWindowController::saveReport);
         _swc->setDocumentName(shownName());
     }
     _swc->setToursArray(_document.toursArray());

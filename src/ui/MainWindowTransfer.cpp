@@ -1,13 +1,13 @@
 // The way from the device into the document.
 
 #include "device/PortProblem.h"
+#include "format/Counted.h"
 #include "library/DefaultsKeys.h"
 #include "library/RawDump.h"
 #include "platform/Defaults.h"
 #include "ui/ApplicationWindows.h"
 #include "ui/BusySpinner.h"
 #include "ui/ConnectView.h"
-#include "format/Counted.h"
 #include "ui/MainWindowController.h"
 
 #include <QAction>

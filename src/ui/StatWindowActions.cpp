@@ -36,6 +36,10 @@ void StatWindowController::makeFileMenu()
     auto* saveChartAction = addEntry(menu, tr("Save C&hart…"), Qt::CTRL | Qt::SHIFT | Qt::Key_E);
     connect(saveChartAction, &QAction::triggered, this, &StatWindowController::saveChart);
     connect(_saveChartButton, &QToolButton::clicked, saveChartAction, &QAction::trigger);
+    auto* saveReportAction = addEntry(menu, tr("Save &Report…"), Qt::CTRL | Qt::SHIFT | Qt::Key_R);
+    connect(saveReportAction, &QAction::triggered, this, [this] {
+        Q_EMIT reportRequested({period(), day(), _odoStat->weekRule()});
+    });
     menu.addSeparator();
     addCloseAndQuit(menu, *this, _windows);
 }

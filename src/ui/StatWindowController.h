@@ -1,5 +1,6 @@
 #pragma once
 
+#include "exchange/ExportFormat.h"
 #include "model/OdoStat.h"
 #include "ui/StatBars.h"
 
@@ -74,10 +75,13 @@ public:
     QString readout() const;
     /// What has just happened, in words.
     QString message() const;
+    void showMessage(const QString& message);
 
 Q_SIGNALS:
     /// It is the one the rider works with.
     void activated();
+    /// The rider wants a report of the period that is shown.
+    void reportRequested(const ridelog::ChosenPeriod& period);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -106,7 +110,6 @@ private:
     void refresh();
     void refreshChart();
     void showReadout(std::optional<int> bar);
-    void showMessage(const QString& message);
 
     // Actions
     /// False, with word of it, for a day that the window does not go to.

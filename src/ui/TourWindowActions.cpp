@@ -36,6 +36,8 @@ void TourWindowController::makeFileMenu()
     auto& menu = *menuBar()->addMenu(tr("&File"));
     connect(addEntry(menu, tr("&Save"), QKeySequence::Save), &QAction::triggered, this,
             &TourWindowController::saveRequested);
+    connect(addEntry(menu, tr("&Export…"), Qt::CTRL | Qt::Key_E), &QAction::triggered, this,
+            &TourWindowController::exportRequested);
     menu.addSeparator();
     auto* saveChartAction = addEntry(menu, tr("Save C&hart…"), Qt::CTRL | Qt::SHIFT | Qt::Key_E);
     connect(saveChartAction, &QAction::triggered, this, &TourWindowController::saveChart);

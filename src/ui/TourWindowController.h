@@ -73,6 +73,8 @@ Q_SIGNALS:
     void activated();
     /// The rider wants the document to be saved.
     void saveRequested();
+    /// The rider wants the tour to be exported.
+    void exportRequested();
     /// A step of the document is about to be taken back, or done again: what is still being edited in any of
     /// its windows has to count before.
     void aboutToStep();

@@ -1,8 +1,8 @@
 // The samples of a tour: the table, the mark in the chart, the values under the mouse.
 
 #include "exchange/TourSummary.h"
-#include "model/SeriesNames.h"
 #include "format/Counted.h"
+#include "model/SeriesNames.h"
 #include "ui/ElidedLabel.h"
 #include "ui/SampleTableModel.h"
 #include "ui/TourWindowController.h"

@@ -4,6 +4,7 @@
 #include "platform/Defaults.h"
 #include "tests/support/Dates.h"
 
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -44,11 +45,13 @@ TEST_F(DefaultsKeysTest, RegisteredValues)
         {"checkForUpdateAfterDays", "7"},
         {"automaticCheck", "true"},
         {"useMiles", "false"},
+        {"exportFormat", "tcx"},
+        {"exportTogether", "false"},
     };
     QStringList registered;
     QObject::connect(&defaults, &Defaults::changed, [&](const QString& key) { registered.append(key); });
     DefaultsKeys::registerApplicationDefaults(defaults);
-    EXPECT_EQ(registered.size(), 23);
+    EXPECT_EQ(registered.size(), 26);
     for (const auto& [name, value] : table) {
         const auto key = QString::fromLatin1(name);
         const auto expected = QString::fromLatin1(value);
@@ -64,6 +67,8 @@ TEST_F(DefaultsKeysTest, RegisteredValues)
             EXPECT_EQ(defaults.textForKey(key), expected) << name;
         }
     }
+    EXPECT_EQ(defaults.textForKey(QStringLiteral("exportFolder")),
+              QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     EXPECT_FALSE(defaults.contains(DefaultsKeys::drawerOpen));
     DefaultsKeys::registerDocumentDefaults(defaults);
     EXPECT_TRUE(defaults.boolForKey(QStringLiteral("drawerOpen")));
