@@ -5,6 +5,7 @@
 #include "cli/TourList.h"
 #include "cli/TourName.h"
 #include "cli/TourSource.h"
+#include "cli/TourTable.h"
 #include "cli/Wording.h"
 #include "exchange/TourExport.h"
 #include "library/DefaultsKeys.h"
@@ -152,7 +153,7 @@ Selection allTours(const Tours& listed, const Request& request)
 }
 
 /// Writes the files with a progress bar, and says what came of it.
-ExitStatus write(const TourExport& tourExport, TourExport::Existing existing)
+ExitStatus write(const TourExport& tourExport, TourExport::Existing existing, const QString& notes)
 {
     constexpr int quickly = 500; // milliseconds, in which nobody needs a bar
     constexpr int redraw = 100;
@@ -178,7 +179,8 @@ ExitStatus write(const TourExport& tourExport, TourExport::Existing existing)
         return status;
     const auto printed =
         print(QStringLiteral("%1 written\n")
-                  .arg(counted(static_cast<qsizetype>(outcome.written), QStringLiteral("file"))));
+                  .arg(counted(static_cast<qsizetype>(outcome.written), QStringLiteral("file"))) +
+              notes);
     return printed == ExitStatus::done ? status : printed;
 }
 
@@ -256,7 +258,7 @@ ExitStatus ExportCommand::execute(const CommandContext& context) const
                             .numbers = selection.numbers,
                             .period = request.period};
     return write(TourExport(*request.format, from, selection.tours, request.folder, request.layout),
-                 request.existing);
+                 request.existing, notesOn(selection.tours));
 }
 
 } // namespace ridelog

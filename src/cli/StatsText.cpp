@@ -1,6 +1,7 @@
 #include "cli/StatsText.h"
 
 #include "cli/TextTable.h"
+#include "cli/TourList.h"
 #include "cli/TourTable.h"
 
 #include <QLocale>
@@ -20,17 +21,6 @@ QString hoursAndMinutes(double seconds)
 {
     const auto minutes = static_cast<qint64>(seconds) / 60;
     return QStringLiteral("%1:%2").arg(minutes / 60).arg(minutes % 60, 2, 10, QLatin1Char('0'));
-}
-
-/// What is said of tours whose values are not yet made of all of their samples.
-QString notes(const Tours& tours)
-{
-    QString text;
-    for (const auto& tour : tours) {
-        if (const auto note = noteOn(*tour); !note.isEmpty() && !tour->removed())
-            text += QStringLiteral("\n  The tour of %1 %2\n").arg(CalendarDate::text(tour->date()), note);
-    }
-    return text;
 }
 
 } // namespace
@@ -78,7 +68,7 @@ QString statsText(OdoStat& stat, const ReadableUnits& units)
              [](Values values) { return values.averageDecendingPerc; });
     addRow(QStringLiteral("First tour"), {}, [&](Period period) { return text(stat.firstTour(period)); });
     addRow(QStringLiteral("Last tour"), {}, [&](Period period) { return text(stat.lastTour(period)); });
-    return table.text() + notes(stat.toursArray());
+    return table.text() + notesOn(withoutRemoved(stat.toursArray()));
 }
 
 } // namespace ridelog

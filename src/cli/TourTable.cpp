@@ -100,4 +100,14 @@ QString noteOn(const OdoTour& tour)
     return QStringLiteral("goes on at the front of the memory; the values are those of its first part");
 }
 
+QString notesOn(const Tours& tours)
+{
+    QString text;
+    for (const auto& tour : tours) {
+        if (const auto note = noteOn(*tour); !note.isEmpty())
+            text += QStringLiteral("\n  The tour of %1 %2\n").arg(CalendarDate::text(tour->date()), note);
+    }
+    return text;
+}
+
 } // namespace ridelog

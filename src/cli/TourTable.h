@@ -12,5 +12,7 @@ QString tourTable(const Tours& tours, const ReadableUnits& units);
 
 /// What to say of a tour whose values are not yet made of all of its samples; empty for any other.
 QString noteOn(const OdoTour& tour);
+/// The same of several tours, a line for each that needs one.
+QString notesOn(const Tours& tours);
 
 } // namespace ridelog

@@ -14,6 +14,7 @@ public:
     QString name() const override;
     QString description() const override;
     QString ending() const override;
+    bool tellsOfPeriods() const override { return true; }
     void write(const Tours& tours, const ExportSource& source, const ExportSink& sink) const override;
 
 private:

@@ -4,6 +4,14 @@
 #include <chrono>
 
 namespace ridelog {
+namespace {
+
+/// That dates in four digits have.
+constexpr int lastYear = 9999;
+constexpr qint64 secondsOfADay = 86'400;
+constexpr qsizetype localFormLength = 19; // "2007-03-10T08:00:00"
+
+} // namespace
 
 std::optional<std::int32_t> recordedPulse(std::int32_t beatsPerMinute)
 {
@@ -57,8 +65,30 @@ void appendUtcText(std::string& text, qint64 instant)
 
 QByteArray zonedText(const QDateTime& date)
 {
+    const auto year = date.date().year();
+    if (year < 1 || year > lastYear)
+        return CalendarDate::text(date).toLatin1();
     // Of a date in a zone the toolkit's form leaves out the offset; of one with an offset it has it.
     return date.toOffsetFromUtc(date.offsetFromUtc()).toString(Qt::ISODate).toLatin1();
+}
+
+QByteArray ZonedTexts::textOf(const SeriesEntry& entry)
+{
+    const auto instant = _start + entry.time;
+    if (instant < _from || instant >= _until) {
+        const auto date = timeOf(_tour, entry);
+        // Whatever the form does not have is left to those who know.
+        if (date.date().year() < 1 || date.date().year() >= lastYear)
+            return zonedText(date);
+        const auto change = _tour.date().timeZone().nextTransition(date).atUtc;
+        _from = instant;
+        _until = change.isValid() ? change.toSecsSinceEpoch() : instant + secondsOfADay;
+        _offset = date.offsetFromUtc();
+        _ending = zonedText(date).mid(localFormLength);
+    }
+    std::string text;
+    appendUtcText(text, instant + _offset);
+    return QByteArray(text.data(), localFormLength) + _ending;
 }
 
 QString exchangeText(const QString& text)

@@ -26,8 +26,25 @@ QDateTime timeOf(const OdoTour& tour, const SeriesEntry& entry);
 QByteArray utcText(const QDateTime& date);
 /// The same, appended, of an instant in seconds since 1970.
 void appendUtcText(std::string& text, qint64 instant);
-/// "2007-03-10T08:00:00+01:00".
+/// "2007-03-10T08:00:00+01:00". Of a year that this form does not have, the text form of dates.
 QByteArray zonedText(const QDateTime& date);
+
+/// Writes the instants of a tour as zonedText does, in a fraction of its time where they follow each other.
+class ZonedTexts {
+public:
+    /// `tour` has to outlive it.
+    explicit ZonedTexts(const OdoTour& tour) : _tour(tour), _start(tour.date().toSecsSinceEpoch()) {}
+
+    QByteArray textOf(const SeriesEntry& entry);
+
+private:
+    const OdoTour& _tour;
+    qint64 _start; ///< seconds since 1970, as all instants here
+    qint64 _from = 0;
+    qint64 _until = 0;  ///< what `_offset` holds for ends here
+    int _offset = 0;    ///< seconds
+    QByteArray _ending; ///< "+01:00"
+};
 
 /// The text without characters that XML, and with it most programs, do not take: control characters and
 /// halves of pairs.

@@ -20,11 +20,12 @@ void writeHeader(CsvWriter& csv)
 void writeSamples(CsvWriter& csv, const OdoTour& tour)
 {
     const auto start = zonedText(tour.date());
+    ZonedTexts dates(tour);
     const bool temperature = hasTemperature(tour);
     const bool cadence = hasCadence(tour);
     for (const auto& entry : tour.data()) {
         csv.plainCell(start);
-        csv.plainCell(zonedText(timeOf(tour, entry)));
+        csv.plainCell(dates.textOf(entry));
         csv.cell(entry.time);
         csv.cell(entry.altitude);
         csv.cell(entry.distance);

@@ -1,9 +1,9 @@
 #include "ui/TourExporting.h"
 
 #include "exchange/TourExport.h"
+#include "format/Counted.h"
 #include "library/DefaultsKeys.h"
 #include "platform/Defaults.h"
-#include "ui/Counted.h"
 #include "ui/ExportPanel.h"
 #include "ui/ExportProgress.h"
 #include "ui/Sheet.h"
