@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cmath>
 
 namespace ridelog {
 namespace {
@@ -18,8 +19,8 @@ QByteArray cssColour(const ColourComponents& colour)
 {
     QByteArray text("#");
     const auto append = [&text](double component) {
-        const auto part = static_cast<int>(std::clamp(component, 0.0, 1.0) * 255 + 0.5);
-        text += QByteArray::number(part, 16).rightJustified(2, '0');
+        const auto part = std::lround(std::clamp(component, 0.0, 1.0) * 255);
+        text += QByteArray::number(qlonglong{part}, 16).rightJustified(2, '0');
     };
     append(colour.red);
     append(colour.green);

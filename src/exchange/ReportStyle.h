@@ -72,12 +72,15 @@ section.tour { content-visibility: auto; contain-intrinsic-size: auto 56rem; bor
   body { font-size: 10pt; }
   main { max-width: none; padding: 0; }
   h1, h2, h3 { break-after: avoid; }
+  h3 { font-size: 9.5pt; }
   .readout, .hint, .back, svg .mark { display: none; }
   .scroll { overflow: visible; }
   .tour svg { min-width: 0; }
   figure, .bars, tr { break-inside: avoid; }
-  .summary { columns: 3; column-gap: 1.5rem; font-size: 8.5pt; }
+  .summary { columns: 3; column-gap: 1.5rem; font-size: 8pt; }
   .summary dl div { gap: .4rem; }
+  .group { padding-bottom: .6rem; }
+  .bars { grid-template-columns: 1fr 1fr; }
   table { font-size: 8.5pt; }
   th, td { padding: .15rem .35rem; }
   thead { display: table-header-group; }

@@ -95,10 +95,21 @@ qsizetype pointsOf(const Page& page, const char* series)
     return numbers / 2 + static_cast<qsizetype>(page.named("circle", series).size());
 }
 
+/// Makes a locale the default one for as long as it lives.
+class LocaleForNow {
+public:
+    explicit LocaleForNow(const QLocale& locale) { QLocale::setDefault(locale); }
+    ~LocaleForNow() { QLocale::setDefault(_before); }
+    LocaleForNow(const LocaleForNow&) = delete;
+    LocaleForNow& operator=(const LocaleForNow&) = delete;
+
+private:
+    QLocale _before;
+};
+
 class HtmlFormatTest : public testing::Test {
 protected:
     HtmlFormatTest() { DefaultsKeys::registerApplicationDefaults(_defaults); }
-    ~HtmlFormatTest() override { QLocale::setDefault(_locale); }
 
     QByteArray html(const Tours& tours, const ExportSource& source = {}) const
     {
@@ -115,9 +126,6 @@ protected:
     }
 
     Defaults _defaults{QString()};
-
-private:
-    QLocale _locale;
 };
 
 TEST_F(HtmlFormatTest, ReportsAllThatATourHas)
@@ -299,7 +307,7 @@ TEST_F(HtmlFormatTest, DrawsWhateverNumbersThereAre)
 
 TEST_F(HtmlFormatTest, WritesNumbersAndDatesOfTheLocaleAndTellsTheLanguageOfItsWords)
 {
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    const LocaleForNow german(QLocale(QLocale::German, QLocale::Germany));
     const auto tour = tourOver(500, {{10, 123}, {-5, 2000}});
     const Page page(html({tour}));
     EXPECT_EQ(attribute(page.elements.front(), "lang"), QStringLiteral("en"));
