@@ -35,7 +35,7 @@ std::vector<SampleColumn> columnsOf(const OdoTour& tour)
     return columns;
 }
 
-/// A text as JSON that a page can hold, with a comma behind it.
+/// A text as what stands between the quotation marks of JSON that a page can hold.
 QByteArray jsonText(const QString& text)
 {
     constexpr QByteArrayView markup("\\\"<>&"); // the first is what the others become
@@ -45,7 +45,7 @@ QByteArray jsonText(const QString& text)
         for (const char character : markup)
             plain.replace(character, "\\u00" + QByteArray::number(character, 16));
     }
-    return '"' + plain + "\",";
+    return plain;
 }
 
 /// The texts of a column. Most values come again and again: the text of each is made once.
@@ -53,10 +53,11 @@ template <typename Value>
 QByteArray textsOf(const OdoTour& tour, const SampleTexts& texts, SampleColumn column,
                    Value SeriesEntry::*value)
 {
+    constexpr QByteArrayView between("\",\"");
     QHash<Value, QByteArray> made;
     QByteArray json;
     json.reserve(static_cast<qsizetype>(tour.data().size()) * usualText);
-    json += '[';
+    json += "[\"";
     for (const auto& entry : tour.data()) {
         auto& text = made[entry.*value];
         if (text.isEmpty()) {
@@ -64,9 +65,10 @@ QByteArray textsOf(const OdoTour& tour, const SampleTexts& texts, SampleColumn c
             text = jsonText(isMissing ? QStringLiteral("–") : texts.text(column, entry));
         }
         json += text;
+        json += between;
     }
-    json.back() = ']'; // in the place of a comma
-    return json;
+    json.chop(between.size());
+    return json + "\"]";
 }
 
 QByteArray textsOf(const OdoTour& tour, const SampleTexts& texts, SampleColumn column)
