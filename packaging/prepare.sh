@@ -17,7 +17,7 @@ install_packages() {
     "${apt_get[@]}" install -y --no-install-recommends "$@"
 }
 
-# The published form of the Training Center's files, which is part of a package that is not installed. Where it cannot
+# The published form of the Training Center's files, which is part of a package whose program nobody needs here. Where it cannot
 # be had, the tests that need it say so.
 fetch_schema() {
     local schema=build/schemas/TrainingCenterDatabasev2.xsd

@@ -15,7 +15,8 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QMap>
-#include <QSet>
+
+#include <algorithm>
 
 namespace ridelog {
 namespace {
@@ -172,9 +173,11 @@ ExitStatus write(const TourExport& tourExport, TourExport::Existing existing, co
         return true;
     });
     bar.reset();
-    for (const auto& [path, reason] : outcome.failures)
-        fail(path, reason);
-    const auto status = outcome.failures.empty() ? ExitStatus::done : ExitStatus::failed;
+    auto status = ExitStatus::done;
+    for (const auto& [path, reason, isRefusal] : outcome.failures) {
+        const auto ended = isRefusal ? refuse(path, reason) : fail(path, reason);
+        status = std::max(status, ended);
+    }
     if (outcome.written == 0)
         return status;
     const auto printed =

@@ -34,7 +34,7 @@ std::size_t nameStep(Period period, const std::vector<PeriodPart>& parts, double
     return static_cast<std::size_t>(roundStep(std::max(names, 1.0)));
 }
 
-/// No class knows it: a colour of a series, or of what suits it.
+/// The class of the page's style that has its colour.
 QByteArray colourClass(StatQuantity quantity)
 {
     const auto key = colourKeyOf(quantity);

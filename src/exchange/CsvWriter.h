@@ -3,10 +3,12 @@
 #include "platform/NumberText.h"
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
 #include <concepts>
 #include <optional>
+#include <utility>
 
 namespace ridelog {
 

@@ -89,7 +89,7 @@ void FitEncoder::write(std::uint16_t message, const FitValues& values)
     append(_bytes, dataHead, 1);
     for (const auto& [field, value] : values) {
         const auto stored = value ? field.stored(*value) : std::nullopt;
-        append(_bytes, stored.value_or(field.type.invalid), field.type.size);
+        append(_bytes, stored.value_or(field.type.invalid()), field.type.size);
     }
 }
 

@@ -34,13 +34,16 @@ QString dateText(std::int64_t seconds)
     return CalendarDate::text(QDateTime::fromSecsSinceEpoch(Fit::epoch + seconds, QTimeZone::utc()));
 }
 
-int sportOf(const OdoTour& tour)
+int profileSportOf(const OdoTour& tour)
 {
-    const auto type = tour.type().value_or(QString());
-    if (type == QLatin1String("Bike") || type == QLatin1String("Ski-Bike"))
+    switch (sportOf(tour)) {
+    case Sport::cycling:
         return Fit::Sport::cycling;
-    if (type == QLatin1String("Jogging"))
+    case Sport::running:
         return Fit::Sport::running;
+    case Sport::other:
+        break;
+    }
     return Fit::Sport::generic;
 }
 
@@ -125,9 +128,12 @@ private:
         const bool temperature = hasTemperature(_tour);
         FitValues values;
         for (const auto& entry : _tour.data()) {
-            values = {{Fit::timestamp, _start + entry.time},       {Record::altitude, entry.altitude},
-                      {Record::distance, entry.distance * 1000.0}, _speeds.take(entry.speed / 3.6),
-                      _pulses.take(recordedPulse(entry.pulse)),    _powers.take(entry.power)};
+            values = {{Fit::timestamp, _start + entry.time},
+                      {Record::altitude, entry.altitude},
+                      {Record::distance, entry.distance * metresPerKilometre},
+                      _speeds.take(entry.speed / kmhPerMetrePerSecond),
+                      _pulses.take(recordedPulse(entry.pulse)),
+                      _powers.take(entry.power)};
             if (cadence)
                 values.push_back(_cadences.take(entry.cadence));
             if (temperature)
@@ -176,7 +182,7 @@ private:
                 {Message::event, Fit::EventOf::lap},
                 {Message::eventType, Fit::EventType::stop},
                 {Message::startTime, _start},
-                {Message::sport, sportOf(_tour)},
+                {Message::sport, profileSportOf(_tour)},
                 {Message::totalElapsedTime, seconds()},
                 {Message::totalTimerTime, seconds()},
                 {Message::totalDistance, metres()},
@@ -195,7 +201,7 @@ private:
     }
 
     double seconds() const { return _end - _start; }
-    double metres() const { return _tour.totalDistance() * 1000.0; }
+    double metres() const { return _tour.totalDistance() * metresPerKilometre; }
     /// Over the time of the timer, as the format defines it.
     std::optional<double> averageSpeed() const
     {

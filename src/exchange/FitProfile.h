@@ -8,21 +8,22 @@
 /// and fields, under the names that the profile gives them.
 namespace ridelog::Fit {
 
-/// How a field's numbers are stored. The value next to the highest (of a signed type: the highest of all) is
-/// the invalid one, which stands for "not recorded".
+/// How a field's numbers are stored.
 struct BaseType {
     std::uint8_t code;
     std::uint8_t size; ///< bytes
     std::int64_t lowest;
     std::int64_t highest;
-    std::int64_t invalid;
+
+    /// The value above the highest, which stands for "not recorded".
+    constexpr std::int64_t invalid() const { return highest + 1; }
 };
 
-inline constexpr BaseType enumeration{0x00, 1, 0, 0xFE, 0xFF};
-inline constexpr BaseType sint8{0x01, 1, -0x80, 0x7E, 0x7F};
-inline constexpr BaseType uint8{0x02, 1, 0, 0xFE, 0xFF};
-inline constexpr BaseType uint16{0x84, 2, 0, 0xFFFE, 0xFFFF};
-inline constexpr BaseType uint32{0x86, 4, 0, 0xFFFFFFFE, 0xFFFFFFFF};
+inline constexpr BaseType enumeration{0x00, 1, 0, 0xFE};
+inline constexpr BaseType sint8{0x01, 1, -0x80, 0x7E};
+inline constexpr BaseType uint8{0x02, 1, 0, 0xFE};
+inline constexpr BaseType uint16{0x84, 2, 0, 0xFFFE};
+inline constexpr BaseType uint32{0x86, 4, 0, 0xFFFFFFFE};
 
 /// A field of a message: it stores (value + offset) × scale.
 struct Field {

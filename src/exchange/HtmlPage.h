@@ -13,7 +13,7 @@ class Defaults;
 /// The text as content of an element or of a quoted attribute, in UTF-8.
 QByteArray escaped(const QString& text);
 
-/// What is in the values of one pair of <dt> and <dd>.
+/// A name and its value: a line of a list <dl>.
 QByteArray namedValue(const QString& name, const QString& value);
 
 /// Whether charts tell the values under the mouse, for which the page has a script.

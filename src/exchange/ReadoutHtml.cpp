@@ -16,11 +16,6 @@ namespace {
 
 constexpr qsizetype usualText = 12; ///< bytes of a text in the page
 
-bool hasPulse(const OdoTour& tour)
-{
-    return std::ranges::any_of(tour.data(), [](const SeriesEntry& entry) { return entry.pulse != 0; });
-}
-
 std::vector<SampleColumn> columnsOf(const OdoTour& tour)
 {
     std::vector<SampleColumn> columns{SampleColumn::time, SampleColumn::distance, SampleColumn::altitude,

@@ -18,6 +18,24 @@ std::optional<std::int32_t> recordedPulse(std::int32_t beatsPerMinute)
     return beatsPerMinute == 0 ? std::nullopt : std::optional(beatsPerMinute);
 }
 
+bool hasPulse(const OdoTour& tour)
+{
+    return averageRecordedPulse(tour).has_value();
+}
+
+std::optional<double> averageRecordedPulse(const OdoTour& tour)
+{
+    double sum = 0;
+    int count = 0;
+    for (const auto& entry : tour.data()) {
+        if (const auto pulse = recordedPulse(entry.pulse)) {
+            sum += *pulse;
+            ++count;
+        }
+    }
+    return count == 0 ? std::nullopt : std::optional(sum / count);
+}
+
 bool hasCadence(const OdoTour& tour)
 {
     return std::ranges::any_of(tour.data(), [](const SeriesEntry& entry) { return entry.cadence != 0; });
@@ -26,6 +44,14 @@ bool hasCadence(const OdoTour& tour)
 bool hasTemperature(const OdoTour& tour)
 {
     return !tour.tourData().empty();
+}
+
+Sport sportOf(const OdoTour& tour)
+{
+    const auto type = tour.type().value_or(QString());
+    if (type == u"Bike" || type == u"Ski-Bike")
+        return Sport::cycling;
+    return type == u"Jogging" ? Sport::running : Sport::other;
 }
 
 QDateTime timeOf(const OdoTour& tour, const SeriesEntry& entry)

@@ -15,10 +15,21 @@ namespace ridelog {
 
 /// None for 0, which a device without a belt records.
 std::optional<std::int32_t> recordedPulse(std::int32_t beatsPerMinute);
+/// Whether any entry has a pulse.
+bool hasPulse(const OdoTour& tour);
+/// Mean over the entries that have a pulse, as programs compute it that know no others; none without any.
+std::optional<double> averageRecordedPulse(const OdoTour& tour);
 /// Whether a sensor has told the cadence: without one every entry has 0.
 bool hasCadence(const OdoTour& tour);
 /// Whether the temperatures are the device's: a tour without samples has none.
 bool hasTemperature(const OdoTour& tour);
+
+/// What other programs know of a tour's type.
+enum class Sport { cycling, running, other };
+Sport sportOf(const OdoTour& tour);
+
+inline constexpr double metresPerKilometre = 1000;
+inline constexpr double kmhPerMetrePerSecond = 3.6;
 
 /// The instant of a series entry.
 QDateTime timeOf(const OdoTour& tour, const SeriesEntry& entry);

@@ -13,7 +13,8 @@ class Defaults;
 enum class SampleColumn { time, distance, altitude, speed, pulse, power, grade, temperature, cadence };
 inline constexpr int sampleColumns = static_cast<int>(SampleColumn::cadence) + 1;
 
-/// The values of series entries as people read them, in the units that the user wanted when it was made.
+/// The values of series entries as people read them, in the user's units. Another one is made when those
+/// change.
 class SampleTexts {
 public:
     /// `defaults` have to outlive it.

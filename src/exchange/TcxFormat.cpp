@@ -34,9 +34,6 @@ constexpr int mostBeats = 255;
 constexpr int mostRevolutions = 254;
 constexpr int mostWatts = 65'535;
 
-constexpr double metresPerKilometre = 1000;
-constexpr double kmhPerMetrePerSecond = 3.6;
-
 /// The tags of an element, ready to be copied: there are thousands of each.
 struct Element {
     std::string_view begin;
@@ -124,7 +121,8 @@ void appendLap(std::string& xml, const OdoTour& tour)
     appendDistance(xml, tour.totalDistance());
     appendSpeed(xml, maximumSpeed, tour.maxSpeed());
     appendNumber(xml, calories, 0); // nobody knows them, but they have to be there
-    appendPulse(xml, averageHeartRate, tour.avgPulse());
+    // That of the tour counts what was not recorded as 0. Readers know the points only.
+    appendPulse(xml, averageHeartRate, static_cast<float>(averageRecordedPulse(tour).value_or(0)));
     appendPulse(xml, maximumHeartRate, tour.maxPulse());
     xml += "<Intensity>Active</Intensity><TriggerMethod>Manual</TriggerMethod>\n<Track>\n";
     const auto start = tour.date().toSecsSinceEpoch();
@@ -144,17 +142,22 @@ std::string notesOf(const OdoTour& tour)
     return escaped.toUtf8().replace('\r', "&#13;").toStdString();
 }
 
-std::string sportOf(const OdoTour& tour)
+const char* sportName(const OdoTour& tour)
 {
-    const auto type = tour.type();
-    if (type == QStringLiteral("Bike") || type == QStringLiteral("Ski-Bike"))
+    switch (sportOf(tour)) {
+    case Sport::cycling:
         return "Biking";
-    return type == QStringLiteral("Jogging") ? "Running" : "Other";
+    case Sport::running:
+        return "Running";
+    case Sport::other:
+        break;
+    }
+    return "Other";
 }
 
 void appendActivity(std::string& xml, const OdoTour& tour, const std::string& id)
 {
-    xml += "<Activity Sport=\"" + sportOf(tour) + "\"><Id>" + id + "</Id>\n";
+    xml += std::string("<Activity Sport=\"") + sportName(tour) + "\"><Id>" + id + "</Id>\n";
     appendLap(xml, tour);
     if (const auto notes = notesOf(tour); !notes.empty())
         xml += "<Notes>" + notes + "</Notes>\n";

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
+#include <memory>
 #include <optional>
 #include <system_error>
 
@@ -72,28 +73,33 @@ private:
 /// None, or why there is no such folder.
 std::optional<QString> makeFolder(const QString& path)
 {
+    if (const QFileInfo info(path); info.isSymLink() && !info.exists())
+        return QStringLiteral("it is a link that leads nowhere");
     std::error_code error;
     std::filesystem::create_directories(QFile::encodeName(path).toStdString(), error);
     return error ? std::optional(QString::fromLocal8Bit(error.message().c_str())) : std::nullopt;
 }
 
-/// None, or why the file is not there now. One that is not wanted any more is not.
+/// None, or why the file is not there now. One that is not wanted any more is not. `written` becomes the
+/// file whose folder is still to be forced to the disk.
 std::optional<QString> writeFile(const ExportFile& file, const ByteSource& content,
-                                 TourExport::Existing existing, const bool& isWanted)
+                                 TourExport::Existing existing, const bool& isWanted,
+                                 std::unique_ptr<WholeFile>& written)
 {
     const bool replaces = file.isThere && existing == TourExport::Existing::replace;
     if (file.isThere && !replaces)
         return QStringLiteral("it is there already");
     if (replaces && holdsTours(file.path))
         return QStringLiteral("it holds tours, which an export would replace");
-    WholeFile whole(file.path);
-    if (auto error = whole.write(content, [&isWanted] { return isWanted; }))
+    auto whole = std::make_unique<WholeFile>(file.path);
+    if (auto error = whole->write(content, [&isWanted] { return isWanted; }))
         return error;
     if (!isWanted)
         return std::nullopt;
-    if (auto error = replaces ? whole.putInPlace() : whole.putInFreePlace())
+    if (auto error = replaces ? whole->putInPlace() : whole->putInFreePlace())
         return error;
-    return whole.forceFolder();
+    written = std::move(whole);
+    return std::nullopt;
 }
 
 } // namespace
@@ -152,6 +158,7 @@ TourExport::Outcome TourExport::write(Existing existing, const GoesOn& goesOn) c
     }
     std::size_t before = 0;
     bool isWanted = true;
+    std::unique_ptr<WholeFile> last;
     for (const auto& file : _files) {
         const auto content = [&](const ByteSink& bytes) {
             auto done = before;
@@ -162,10 +169,10 @@ TourExport::Outcome TourExport::write(Existing existing, const GoesOn& goesOn) c
         };
         const auto refusal = _format.refusal(file.tours);
         const auto error =
-            refusal.isEmpty() ? writeFile(file, content, existing, isWanted) : std::optional(refusal);
+            refusal.isEmpty() ? writeFile(file, content, existing, isWanted, last) : std::optional(refusal);
         before += file.tours.size();
         if (error) {
-            outcome.failures.push_back({file.path, *error});
+            outcome.failures.push_back({file.path, *error, !refusal.isEmpty()});
             isWanted = isWanted && goesOn(before);
         } else if (isWanted) {
             ++outcome.written;
@@ -175,6 +182,9 @@ TourExport::Outcome TourExport::write(Existing existing, const GoesOn& goesOn) c
             break;
         }
     }
+    // Once for all: thousands of files would take as many waits for the disk.
+    if (const auto error = last ? last->forceFolder() : std::nullopt)
+        outcome.failures.push_back({_folder, *error});
     return outcome;
 }
 

@@ -46,6 +46,7 @@ public:
     struct Failure {
         QString path;
         QString reason;
+        bool isRefusal = false; ///< the format has no room for the tours; else the file could not be written
     };
     struct Outcome {
         std::size_t written = 0; ///< files

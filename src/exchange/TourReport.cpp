@@ -48,20 +48,23 @@ QByteArray summaryHtml(const OdoTour& tour, const Defaults& defaults)
     return html + "</div>\n";
 }
 
+bool hasTitle(const OdoTour& tour)
+{
+    return !tour.shownTitle().trimmed().isEmpty();
+}
+
 } // namespace
 
 QString reportHeading(const OdoTour& tour)
 {
-    const auto hasText = [](const QString& text) { return !text.trimmed().isEmpty(); };
-    if (hasText(tour.shownTitle()))
-        return tour.shownTitle();
-    const auto type = tour.type().value_or(QString());
-    return hasText(type) ? type : translated(QT_TRANSLATE_NOOP("TourReport", "Tour"));
+    return hasTitle(tour) ? tour.shownTitle() : startAndType(tour);
 }
 
 QByteArray tourReport(const OdoTour& tour, const Defaults& defaults, Readouts readouts)
 {
-    auto html = paragraph("when", startAndType(tour));
+    QByteArray html;
+    if (hasTitle(tour))
+        html += paragraph("when", startAndType(tour));
     if (tour.removed())
         html += paragraph(
             "note", translated(QT_TRANSLATE_NOOP("TourReport", "This tour is removed from its document.")));

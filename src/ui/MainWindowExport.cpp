@@ -45,7 +45,11 @@ void MainWindowController::exportTours()
 void MainWindowController::exportTour(TourWindowController& window)
 {
     beginAction();
-    askToExport(window, _defaults, exportSource(), {}, {window.odoTour()},
+    auto source = exportSource();
+    // A removed tour has a number only among all.
+    if (window.odoTour()->removed())
+        source.numbers = numbersOf(sortedTours(_document.toursArray(), newestFirst()));
+    askToExport(window, _defaults, std::move(source), {}, {window.odoTour()},
                 [&window](const QString& outcome) { window.showMessage(outcome); });
 }
 

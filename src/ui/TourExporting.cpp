@@ -9,6 +9,7 @@
 #include "ui/Sheet.h"
 #include "ui/UiLog.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -49,10 +50,38 @@ QString enumerated(const QStringList& texts, const QString& separator)
     return others <= 0 ? shown : ExportPanel::tr("%1 and %2 more").arg(shown, QLocale().toString(others));
 }
 
+/// The formats, with what the rider has chosen by now: a file that takes long is in one unit, whatever is
+/// chosen meanwhile.
+class FormatsOfNow {
+public:
+    explicit FormatsOfNow(const Defaults& defaults)
+    {
+        DefaultsKeys::registerApplicationDefaults(_defaults);
+        for (const auto& key : {DefaultsKeys::useMiles, DefaultsKeys::colorAltitude, DefaultsKeys::colorSpeed,
+                                DefaultsKeys::colorPulse})
+            _defaults.setValue(key, defaults.valueForKey(key));
+    }
+    FormatsOfNow(const FormatsOfNow&) = delete;
+    FormatsOfNow& operator=(const FormatsOfNow&) = delete;
+
+    const ExportFormats& formats() const { return _formats; }
+
+private:
+    Defaults _defaults{QString()};
+    ExportFormats _formats = exportFormats(_defaults);
+};
+
+/// Whether files are being written for any window.
+bool isExportingAnywhere()
+{
+    const auto windows = QApplication::topLevelWidgets();
+    return std::ranges::any_of(windows, [](const auto* window) { return isExporting(*window); });
+}
+
 /// An export that is laid out, from the questions to the word of what came of it.
 class Exporting : public std::enable_shared_from_this<Exporting> {
 public:
-    Exporting(QWidget& over, Defaults& defaults, std::shared_ptr<const ExportFormats> formats,
+    Exporting(QWidget& over, Defaults& defaults, std::shared_ptr<const FormatsOfNow> formats,
               TourExport files, TellExported tell)
         : _over(&over),
           _defaults(defaults),
@@ -94,7 +123,7 @@ private:
 
     QPointer<QWidget> _over;
     Defaults& _defaults;
-    std::shared_ptr<const ExportFormats> _formats; ///< which the export speaks to
+    std::shared_ptr<const FormatsOfNow> _formats; ///< which the export speaks to
     TourExport _export;
     TellExported _tell;
 };
@@ -123,6 +152,11 @@ void Exporting::askToReplace()
 
 void Exporting::write(TourExport::Existing existing)
 {
+    // One inside the other would keep the first from going on.
+    if (isExportingAnywhere()) {
+        _tell(ExportPanel::tr("Another export is under way. Try again when it has ended."));
+        return;
+    }
     const auto outcome = writeServingEvents(existing);
     for (const auto& failure : outcome.failures)
         qCWarning(lcUi, "%s was not exported: %s", qPrintable(failure.path), qPrintable(failure.reason));
@@ -201,8 +235,8 @@ QString Exporting::outcomeText(const TourExport::Outcome& outcome) const
 void askToExport(QWidget& over, Defaults& defaults, ExportSource source, const Tours& selected,
                  const Tours& all, TellExported tell)
 {
-    const auto formats = std::make_shared<const ExportFormats>(exportFormats(defaults));
-    auto* panel = new ExportPanel(&over, defaults, *formats, std::move(source), selected, all);
+    const auto formats = std::make_shared<const FormatsOfNow>(defaults);
+    auto* panel = new ExportPanel(&over, defaults, formats->formats(), std::move(source), selected, all);
     panel->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(
         panel, &QDialog::accepted, &over, [panel, &over, &defaults, formats, tell = std::move(tell)] {
@@ -214,8 +248,8 @@ void askToExport(QWidget& over, Defaults& defaults, ExportSource source, const T
 void askToSaveReport(QWidget& over, Defaults& defaults, ExportSource source, const Tours& tours,
                      TellExported tell)
 {
-    const auto formats = std::make_shared<const ExportFormats>(exportFormats(defaults));
-    const auto& format = *formatNamed(*formats, reportFormat);
+    const auto formats = std::make_shared<const FormatsOfNow>(defaults);
+    const auto& format = *formatNamed(formats->formats(), reportFormat);
     const TourExport usual(format, source, tours,
                            defaults.textForKey(DefaultsKeys::exportFolder).value_or(QString()),
                            TourExport::Layout::oneFile);

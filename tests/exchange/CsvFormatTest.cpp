@@ -15,33 +15,36 @@
 namespace ridelog {
 namespace {
 
-/// The lines as objects by column, or none without Python.
-std::optional<QJsonArray> readByPython(const QByteArray& csv)
-{
-    const auto python = QStandardPaths::findExecutable(QStringLiteral("python3"));
-    if (python.isEmpty())
-        return std::nullopt;
-    QProcess process;
-    process.start(
-        python,
-        {QStringLiteral("-c"),
-         QStringLiteral("import csv, io, json, sys\n"
-                        "text = sys.stdin.buffer.read().decode('utf-8', 'strict')\n"
-                        "lines = list(csv.DictReader(io.StringIO(text, newline=''), strict=True))\n"
-                        "assert all(None not in line and None not in line.values() for line in lines)\n"
-                        "print(json.dumps(lines))")});
-    process.write(csv);
-    process.closeWriteChannel();
-    EXPECT_TRUE(process.waitForFinished(60'000) && process.exitCode() == 0)
-        << process.readAllStandardError().toStdString();
-    return QJsonDocument::fromJson(process.readAllStandardOutput()).array();
-}
+class CsvReadByPython : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        if (_python.isEmpty())
+            GTEST_SKIP() << "python3 is not there";
+    }
 
-#define READ_BY_PYTHON(lines, csv)                                                                           \
-    const auto found_##lines = readByPython(csv);                                                            \
-    if (!found_##lines)                                                                                      \
-        GTEST_SKIP() << "python3 is not there";                                                              \
-    const auto& lines = *found_##lines
+    /// The lines as objects by column.
+    QJsonArray lines(const QByteArray& csv) const
+    {
+        QProcess process;
+        process.start(
+            _python,
+            {QStringLiteral("-c"),
+             QStringLiteral("import csv, io, json, sys\n"
+                            "text = sys.stdin.buffer.read().decode('utf-8', 'strict')\n"
+                            "lines = list(csv.DictReader(io.StringIO(text, newline=''), strict=True))\n"
+                            "assert all(None not in line and None not in line.values() for line in lines)\n"
+                            "print(json.dumps(lines))")});
+        process.write(csv);
+        process.closeWriteChannel();
+        EXPECT_TRUE(process.waitForFinished(60'000) && process.exitCode() == 0)
+            << process.readAllStandardError().toStdString();
+        return QJsonDocument::fromJson(process.readAllStandardOutput()).array();
+    }
+
+private:
+    const QString _python = QStandardPaths::findExecutable(QStringLiteral("python3"));
+};
 
 float number(const QJsonValue& line, QStringView column)
 {
@@ -57,11 +60,11 @@ QString cell(const QJsonValue& line, QStringView column)
     return line[column].toString();
 }
 
-TEST(SamplesCsv, RealToursReadBackToTheLastDigit)
+TEST_F(CsvReadByPython, SamplesOfRealToursReadBackToTheLastDigit)
 {
     SKIP_WITHOUT_SAMPLES();
     const auto tours = realTours();
-    READ_BY_PYTHON(lines, exported(SamplesCsvFormat(), tours));
+    const auto lines = this->lines(exported(SamplesCsvFormat(), tours));
     qsizetype next = 0;
     for (const auto& tour : tours) {
         const bool cadence = hasCadence(*tour);
@@ -98,11 +101,11 @@ TEST(SamplesCsv, DatesFollowTheTourOverAChangeOfTheClocks)
         << csv.toStdString();
 }
 
-TEST(SummaryCsv, RealToursReadBackToTheLastDigit)
+TEST_F(CsvReadByPython, SummariesOfRealToursReadBackToTheLastDigit)
 {
     SKIP_WITHOUT_SAMPLES();
     const auto tours = realTours();
-    READ_BY_PYTHON(lines, exported(SummaryCsvFormat(), tours));
+    const auto lines = this->lines(exported(SummaryCsvFormat(), tours));
     ASSERT_EQ(static_cast<std::size_t>(lines.size()), tours.size());
     for (qsizetype i = 0; i < lines.size(); ++i) {
         const auto& tour = *tours[static_cast<std::size_t>(i)];
@@ -129,7 +132,7 @@ TEST(SummaryCsv, RealToursReadBackToTheLastDigit)
     }
 }
 
-TEST(SummaryCsv, TextsSurviveWhateverIsInThem)
+TEST_F(CsvReadByPython, TextsSurviveWhateverIsInThem)
 {
     auto tour = tourThrough({500, 510});
     tour->setTitle(QStringLiteral(" \"Over\", under; \u0001and\uFEFF out\t🚲 "));
@@ -137,7 +140,7 @@ TEST(SummaryCsv, TextsSurviveWhateverIsInThem)
     tour->setTourDescription(description + QChar(0xD800));
     tour->setRemoved(true);
     const auto empty = OdoTour::initWithOdoDataTourDict(std::nullopt, berlin(2007, 12, 31));
-    READ_BY_PYTHON(lines, exported(SummaryCsvFormat(), {tour, empty}));
+    const auto lines = this->lines(exported(SummaryCsvFormat(), {tour, empty}));
     ASSERT_EQ(lines.size(), 2);
     EXPECT_EQ(cell(lines[0], u"title"), QStringLiteral(" \"Over\", under; and\uFEFF out\t🚲 "));
     EXPECT_EQ(cell(lines[0], u"description"), description);

@@ -4,9 +4,8 @@
 #include "exchange/FitEncoder.h"
 #include "exchange/TourExport.h"
 #include "tests/exchange/FitReader.h"
-#include "tests/support/Samples.h"
+#include "tests/exchange/Formats.h"
 #include "tests/support/TemporaryFolder.h"
-#include "tests/support/Tours.h"
 
 #include <QDir>
 #include <QProcess>
@@ -29,12 +28,7 @@ constexpr qint64 epoch = 631'065'600;
 
 QByteArray fitOf(const std::shared_ptr<OdoTour>& tour)
 {
-    QByteArray bytes;
-    int done = 0;
-    FitFormat().write(
-        {tour}, {}, ExportSink([&bytes](QByteArrayView more) { bytes += more; }, [&done] { return ++done; }));
-    EXPECT_EQ(done, 1);
-    return bytes;
+    return exported(FitFormat(), {tour});
 }
 
 /// A tour at `start` from 500 m and 90 bpm; `now` cannot reach it, so that it is given.

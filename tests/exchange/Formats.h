@@ -13,15 +13,23 @@
 
 namespace ridelog {
 
+/// The tours of one of the real dumps.
+inline Tours realTours(const QString& name)
+{
+    const auto dump =
+        OdoData::initWithFile(samplePath(QStringLiteral("dumps/") + name), berlin(2007, 12, 31));
+    EXPECT_TRUE(dump.refusal().isEmpty()) << qPrintable(dump.refusal());
+    return dump.toursArray();
+}
+
 /// All tours of all real dumps.
 inline Tours realTours()
 {
     Tours tours;
     const QDir dumps(samplePath(QStringLiteral("dumps")));
     for (const auto& name : dumps.entryList({QStringLiteral("*.odo")}, QDir::Files, QDir::Name)) {
-        const auto dump = OdoData::initWithFile(dumps.filePath(name), berlin(2007, 12, 31));
-        EXPECT_TRUE(dump.refusal().isEmpty()) << qPrintable(dump.refusal());
-        tours.insert(tours.end(), dump.toursArray().begin(), dump.toursArray().end());
+        const auto ofDump = realTours(name);
+        tours.insert(tours.end(), ofDump.begin(), ofDump.end());
     }
     EXPECT_EQ(tours.size(), 55U);
     return tours;

@@ -1,14 +1,13 @@
 #include "exchange/HtmlFormat.h"
 
-#include "decode/OdoData.h"
 #include "exchange/SampleTexts.h"
 #include "exchange/StatValues.h"
 #include "exchange/TourSummary.h"
+#include "exchange/TourTexts.h"
 #include "library/DefaultsKeys.h"
 #include "platform/Defaults.h"
-#include "tests/support/Samples.h"
+#include "tests/exchange/Formats.h"
 #include "tests/support/TemporaryFolder.h"
-#include "tests/support/Tours.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -113,16 +112,7 @@ protected:
 
     QByteArray html(const Tours& tours, const ExportSource& source = {}) const
     {
-        QByteArray bytes;
-        HtmlFormat(_defaults).write(
-            tours, source, ExportSink([&](QByteArrayView piece) { bytes += piece; }, [] { return true; }));
-        return bytes;
-    }
-
-    static Tours realTours(const char* dump)
-    {
-        const auto path = samplePath(QStringLiteral("dumps/") + QLatin1StringView(dump));
-        return OdoData::initWithFile(path, berlin(2007, 12, 31)).toursArray();
+        return exported(HtmlFormat(_defaults), tours, source);
     }
 
     Defaults _defaults{QString()};
@@ -134,9 +124,9 @@ TEST_F(HtmlFormatTest, ReportsAllThatATourHas)
     for (const bool miles : {false, true}) {
         _defaults.setValue(DefaultsKeys::useMiles, miles);
         for (const char* dump : {"spring.odo", "summer.odo", "autumn.odo", "winter.odo", "wrapped.odo"}) {
-            for (const auto& tour : realTours(dump)) {
+            for (const auto& tour : realTours(QString::fromLatin1(dump))) {
                 const Page page(html({tour}));
-                EXPECT_EQ(page.textOf("title"), tour->type());
+                EXPECT_EQ(page.textOf("title"), startAndType(*tour));
                 for (const auto& group : tourSummary(*tour, _defaults)) {
                     for (const auto& value : group.values)
                         EXPECT_TRUE(value.text.isEmpty() || page.says(value.text)) << qPrintable(value.name);
@@ -155,7 +145,7 @@ TEST_F(HtmlFormatTest, ReportsAllThatATourHas)
 TEST_F(HtmlFormatTest, HasTheValuesOfEverySampleForItsScript)
 {
     SKIP_WITHOUT_SAMPLES();
-    const auto tour = realTours("summer.odo").front();
+    const auto tour = realTours(QStringLiteral("summer.odo")).front();
     const auto json = QJsonDocument::fromJson(Page(html({tour})).textOf("script").toUtf8()).array();
     const SampleTexts texts(_defaults);
     const std::array columns{SampleColumn::time,  SampleColumn::distance,   SampleColumn::altitude,
@@ -223,7 +213,7 @@ TEST_F(HtmlFormatTest, TakesNothingThatRidersWriteForMarkup)
 TEST_F(HtmlFormatTest, ReportsAPeriodWithItsTours)
 {
     SKIP_WITHOUT_SAMPLES();
-    const auto tours = realTours("whole-year.odo");
+    const auto tours = realTours(QStringLiteral("whole-year.odo"));
     tours.front()->setRemoved(true);
     const QDate day(2007, 6, 1);
     const Page page(
@@ -315,14 +305,14 @@ TEST_F(HtmlFormatTest, WritesNumbersAndDatesOfTheLocaleAndTellsTheLanguageOfItsW
     EXPECT_TRUE(page.says(QStringLiteral("Samstag, 10. März 2007, 08:00, Bike")));
 }
 
-/// The page as a browser has it after its scripts have run; empty where there is no browser.
-QString inBrowser(const QByteArray& html)
+/// The page as a browser has it after its scripts have run; none where there is no browser.
+std::optional<QString> inBrowser(const QByteArray& html)
 {
     auto browser = QStandardPaths::findExecutable(QStringLiteral("chromium-headless-shell"));
     if (browser.isEmpty())
         browser = QStandardPaths::findExecutable(QStringLiteral("chromium"));
     if (browser.isEmpty())
-        return {};
+        return std::nullopt;
     const TemporaryFolder folder;
     const auto path = folder.write("report.html", html);
     QStringList words;
@@ -334,7 +324,8 @@ QString inBrowser(const QByteArray& html)
     words << QStringLiteral("--user-data-dir=") + folder.path("profile") << QStringLiteral("file://") + path;
     QProcess process;
     process.start(browser, words);
-    EXPECT_TRUE(process.waitForFinished(60'000)) << "the browser does not end";
+    EXPECT_TRUE(process.waitForFinished(60'000) && process.exitCode() == 0)
+        << process.readAllStandardError().toStdString();
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
@@ -358,9 +349,10 @@ TEST_F(HtmlFormatTest, TellsTheValuesUnderTheMouseInABrowser)
             return line.getBBox().width > 1000 ? "drawn" : "missing";
         }).join("|");
         </script></body>)");
-    const auto dom = inBrowser(bytes);
-    if (dom.isEmpty())
+    const auto page = inBrowser(bytes);
+    if (!page)
         GTEST_SKIP() << "there is no Chromium";
+    const auto& dom = *page;
     const SampleTexts texts(_defaults);
     const auto rowOf = [&](std::size_t index) {
         QStringList row;
@@ -374,7 +366,7 @@ TEST_F(HtmlFormatTest, TellsTheValuesUnderTheMouseInABrowser)
         << qPrintable(dom.right(2000));
     EXPECT_TRUE(dom.contains(QStringLiteral("data-key=\"%1\"").arg(rowOf(3))));
     EXPECT_TRUE(dom.contains(QStringLiteral("data-lines=\"drawn|drawn|drawn\"")));
-    EXPECT_TRUE(dom.contains(QStringLiteral("<title>Bike</title>")));
+    EXPECT_TRUE(dom.contains(QStringLiteral("<title>%1</title>").arg(startAndType(*tour))));
 }
 
 } // namespace
