@@ -1,9 +1,9 @@
 #include "cli/EditCommand.h"
 
 #include "cli/DocumentChange.h"
-#include "cli/TourList.h"
 #include "cli/TourName.h"
 #include "cli/Wording.h"
+#include "library/TourList.h"
 
 #include <QCommandLineParser>
 

@@ -2,13 +2,13 @@
 
 #include "cli/PeriodOptions.h"
 #include "cli/ProgressBar.h"
-#include "cli/TourList.h"
 #include "cli/TourName.h"
 #include "cli/TourSource.h"
 #include "cli/TourTable.h"
 #include "cli/Wording.h"
 #include "exchange/TourExport.h"
 #include "library/DefaultsKeys.h"
+#include "library/TourList.h"
 #include "platform/Defaults.h"
 
 #include <QCommandLineParser>

@@ -1,10 +1,10 @@
 #include "cli/ListCommand.h"
 
-#include "cli/TourList.h"
 #include "cli/TourListJson.h"
 #include "cli/TourSource.h"
 #include "cli/TourTable.h"
 #include "cli/Wording.h"
+#include "library/TourList.h"
 
 #include <QCommandLineParser>
 

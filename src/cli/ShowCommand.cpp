@@ -1,10 +1,10 @@
 #include "cli/ShowCommand.h"
 
-#include "cli/TourList.h"
 #include "cli/TourName.h"
 #include "cli/TourSource.h"
 #include "cli/TourText.h"
 #include "exchange/TourJson.h"
+#include "library/TourList.h"
 
 #include <QCommandLineParser>
 

@@ -1,8 +1,8 @@
 #include "cli/StatsText.h"
 
 #include "cli/TextTable.h"
-#include "cli/TourList.h"
 #include "cli/TourTable.h"
+#include "library/TourList.h"
 
 #include <QLocale>
 

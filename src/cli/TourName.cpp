@@ -1,6 +1,6 @@
 #include "cli/TourName.h"
 
-#include "cli/TourList.h"
+#include "library/TourList.h"
 
 #include <algorithm>
 

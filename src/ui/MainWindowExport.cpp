@@ -2,6 +2,7 @@
 
 #include "exchange/TourExport.h"
 #include "library/GeneralDataOrder.h"
+#include "library/TourList.h"
 #include "ui/MainWindowController.h"
 #include "ui/StatWindowController.h"
 #include "ui/TourExporting.h"
@@ -11,16 +12,6 @@
 #include <iterator>
 
 namespace ridelog {
-namespace {
-
-Tours withoutRemoved(const Tours& tours)
-{
-    Tours kept;
-    std::ranges::copy_if(tours, std::back_inserter(kept), [](const auto& tour) { return !tour->removed(); });
-    return kept;
-}
-
-} // namespace
 
 /// All that are not removed, whatever the rider looks for, in the order of the table.
 Tours MainWindowController::toursToExport() const
@@ -33,7 +24,7 @@ ExportSource MainWindowController::exportSource() const
     return {.name = _document.path().isEmpty() ? tr("Tours") : nameWithoutEnding(),
             .generalData = inOrderOfTheDevice(_document.generalData()),
             // As the command line lists them, however the table is sorted.
-            .numbers = numbersOf(sortedTours(withoutRemoved(_document.toursArray()), newestFirst()))};
+            .numbers = numbersOf(withoutRemoved(inListOrder(_document.toursArray())))};
 }
 
 void MainWindowController::exportTours()
@@ -48,7 +39,7 @@ void MainWindowController::exportTour(TourWindowController& window)
     auto source = exportSource();
     // A removed tour has a number only among all.
     if (window.odoTour()->removed())
-        source.numbers = numbersOf(sortedTours(_document.toursArray(), newestFirst()));
+        source.numbers = numbersOf(inListOrder(_document.toursArray()));
     askToExport(window, _defaults, std::move(source), {}, {window.odoTour()},
                 [&window](const QString& outcome) { window.showMessage(outcome); });
 }

@@ -1,4 +1,4 @@
-#include "cli/TourList.h"
+#include "library/TourList.h"
 
 #include "library/TourSorting.h"
 
