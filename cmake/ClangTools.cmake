@@ -28,9 +28,9 @@ function(ridelog_tidy directory)
       # The object knows which headers the source includes: it is newer than the stamp if any of them changed.
       # Without carets clang does not count the warnings of foreign headers; clang-tidy's own findings keep theirs.
       add_custom_command(OUTPUT ${stamp}
-        COMMAND ${CLANG_TIDY} -p ${PROJECT_BINARY_DIR} --quiet --extra-arg=-fno-caret-diagnostics ${source}
+        COMMAND ${CLANG_TIDY} -p ${PROJECT_BINARY_DIR}/tidy --quiet --extra-arg=-fno-caret-diagnostics ${source}
         COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
-        DEPENDS $<FILTER:$<TARGET_OBJECTS:${target}>,INCLUDE,/${file}.o$> ${PROJECT_SOURCE_DIR}/.clang-tidy
+        DEPENDS $<FILTER:$<TARGET_OBJECTS:${target}>,INCLUDE,/${file}.o$> ${PROJECT_SOURCE_DIR}/.clang-tidy tidy-commands
         COMMENT "Tidying ${name}"
         VERBATIM)
     endforeach()
@@ -42,6 +42,11 @@ function(ridelog_tidy directory)
 endfunction()
 
 function(ridelog_tidy_target)
+  # Without precompiled headers: what gcc has compiled clang cannot read, and each source is to include what it uses.
+  file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/tidy)
+  add_custom_target(tidy-commands
+    COMMAND sed -E "s/ -Winvalid-pch -include [^ ]*//" ${PROJECT_BINARY_DIR}/compile_commands.json > ${PROJECT_BINARY_DIR}/tidy/compile_commands.json
+    VERBATIM)
   ridelog_tidy(${PROJECT_SOURCE_DIR})
   get_property(stamps GLOBAL PROPERTY ridelog_tidy_stamps)
   add_custom_target(tidy DEPENDS ${stamps})

@@ -26,4 +26,26 @@ function(ridelog_folder name)
   add_library(ridelog_${name} STATIC ${arg_SOURCES})
   target_include_directories(ridelog_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_link_libraries(ridelog_${name} PUBLIC ${arg_LINK} PRIVATE ridelog_flags)
+  ridelog_precompile(ridelog_${name})
+endfunction()
+
+# ridelog_precompile(TARGET): compiles once what most sources of the target include. A file of few sources is as
+# quick without. That each source includes what it uses is seen where nothing is precompiled: by clang-tidy.
+function(ridelog_precompile target)
+  get_target_property(sources ${target} SOURCES)
+  list(LENGTH sources count)
+  if(count LESS 5)
+    return()
+  endif()
+  target_precompile_headers(${target} PRIVATE
+    <algorithm> <chrono> <functional> <memory> <optional> <ranges> <string> <unordered_map> <variant> <vector>
+    <QByteArray> <QCoreApplication> <QDateTime> <QDir> <QFile> <QHash> <QLocale> <QLoggingCategory> <QObject>
+    <QString> <QStringList> <QVariant>)
+  get_target_property(links ${target} LINK_LIBRARIES)
+  if(links MATCHES "Qt6::Widgets|ridelog_ui")
+    target_precompile_headers(${target} PRIVATE <QtWidgets>)
+  endif()
+  if("ridelog_test_support" IN_LIST links)
+    target_precompile_headers(${target} PRIVATE <gtest/gtest.h>)
+  endif()
 endfunction()

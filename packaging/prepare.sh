@@ -38,10 +38,10 @@ fetch_schema() {
 }
 
 install_missing() {
-    local packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev tzdata)
+    local packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools tzdata)
     if [[ $1 == test ]]; then
         packages+=(qt6-charts-dev libqt6opengl6-dev libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev
-            xvfb openbox xdotool fonts-dejavu-core libxml2-utils gpsbabel python3)
+            qt6-translations-l10n xvfb openbox xdotool fonts-dejavu-core libxml2-utils gpsbabel python3)
     fi
 
     local missing
@@ -71,7 +71,7 @@ configure() {
     cmake --preset "$1" >/dev/null && return
     echo "ridelog is built with
   CMake 3.25, Ninja, a compiler for C++20 (g++ 12 or clang 14)
-  Qt 6.4 (Core, Gui, Network, PrintSupport, Svg, Widgets) with its headers, time zone data
+  Qt 6.4 (Core, Gui, LinguistTools, Network, PrintSupport, Svg, Widgets) with its headers, time zone data
 and tested with
   GoogleTest 1.12, Google Benchmark 1.7, Qt Charts as what benchmarks compare with
   clang 14 with its sanitizer libraries, clang-format 14, clang-tidy 14

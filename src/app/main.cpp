@@ -1,11 +1,12 @@
 #include "app/SingleInstance.h"
 #include "library/AppController.h"
 #include "platform/Defaults.h"
+#include "platform/Languages.h"
 #include "platform/Log.h"
 #include "platform/MainThread.h"
 #include "platform/StopSignals.h"
 #include "ui/ApplicationWindows.h"
-#include "ui/Languages.h"
+#include "ui/ChosenLanguage.h"
 #include "ui/MainWindowController.h"
 #include "update/ApplicationInfo.h"
 
@@ -75,6 +76,7 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("ridelog"));
     QCoreApplication::setApplicationVersion(runningApplication().version);
+    speakLanguageOf(QLocale());
     QGuiApplication::setApplicationDisplayName(QStringLiteral("ridelog"));
     QGuiApplication::setDesktopFileName(QStringLiteral("ridelog"));
     prepareMainThread();

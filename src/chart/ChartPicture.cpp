@@ -3,6 +3,7 @@
 #include "chart/ChartDrawing.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QImage>
 #include <QPainter>
@@ -24,7 +25,8 @@ constexpr int pointsPerInch = 72;
 
 QString drawPoints(QBuffer& out, const PictureContent& content, const char* format, int quality)
 {
-    auto tooLarge = QStringLiteral("there is not enough memory for a picture of this size");
+    auto tooLarge =
+        QCoreApplication::translate("ChartPicture", "there is not enough memory for a picture of this size");
     QImage image(content.size, QImage::Format_RGB32);
     if (image.isNull())
         return tooLarge;
@@ -33,8 +35,9 @@ QString drawPoints(QBuffer& out, const PictureContent& content, const char* form
             QPainter painter(&image);
             content.draw(painter);
         }
-        return image.save(&out, format, quality) ? QString()
-                                                 : QStringLiteral("the picture cannot be encoded");
+        return image.save(&out, format, quality)
+                   ? QString()
+                   : QCoreApplication::translate("ChartPicture", "the picture cannot be encoded");
     } catch (const std::bad_alloc&) {
         return tooLarge;
     }
@@ -84,7 +87,8 @@ PictureContent chartContent(const ChartScaling::Chart& chart, std::optional<floa
 ChartPicture chartPicture(const PictureContent& content, const QString& fileName)
 {
     if (content.size.isEmpty())
-        return {{}, QStringLiteral("a picture is at least one unit wide and high")};
+        return {{},
+                QCoreApplication::translate("ChartPicture", "a picture is at least one unit wide and high")};
     QBuffer out;
     out.open(QIODevice::WriteOnly);
     const auto ending = QFileInfo(fileName).suffix().toLower();
@@ -98,8 +102,8 @@ ChartPicture chartPicture(const PictureContent& content, const QString& fileName
     else if (ending == u"pdf")
         error = drawPdf(out, content);
     else
-        error =
-            QStringLiteral("pictures end with .%1").arg(chartPictureEndings().join(QStringLiteral(", .")));
+        error = QCoreApplication::translate("ChartPicture", "pictures end with .%1")
+                    .arg(chartPictureEndings().join(QStringLiteral(", .")));
     return {out.data(), error};
 }
 

@@ -1,5 +1,6 @@
 #include "cli/Command.h"
 #include "cli/CommandLine.h"
+#include "platform/Languages.h"
 #include "platform/Log.h"
 
 #include <QCoreApplication>
@@ -55,6 +56,7 @@ int main(int argc, char* argv[])
     for (int i = 0; i < argc; ++i)
         words << QString::fromUtf8(argv[i]);
     const auto application = applicationFor(words, argv);
+    ridelog::speakLanguageOf(QLocale());
     for (int i = 1; i < argc; ++i) {
         if (!isUtf8(argv[i])) {
             const auto status = ridelog::wrongWords(QStringLiteral("'%1' is not UTF-8").arg(words[i]));

@@ -1,10 +1,10 @@
 #include "decode/OdoData.h"
 
 #include "decode/DecodeLog.h"
+#include "platform/Languages.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QLocale>
 
 #include <algorithm>
 #include <utility>
@@ -23,7 +23,7 @@ constexpr std::size_t usualTours = 32;
 /// A number with its thousands set apart, for messages.
 QString grouped(qint64 number)
 {
-    return QLocale(QLocale::English).toString(number);
+    return messageLocale().toString(number);
 }
 
 QString textForm(const GeneralData& generalData)
@@ -60,12 +60,12 @@ bool OdoData::loadDataFromFile(const QString& path)
 {
     const QFileInfo info(path);
     if (info.isDir()) {
-        _refusal = QStringLiteral("it is a folder");
+        _refusal = tr("it is a folder");
         return false;
     }
     // Opening a pipe or a device could wait for ever.
     if (info.exists() && !info.isFile()) {
-        _refusal = QStringLiteral("it is not a regular file");
+        _refusal = tr("it is not a regular file");
         return false;
     }
     QFile file(path);
@@ -74,7 +74,7 @@ bool OdoData::loadDataFromFile(const QString& path)
         return false;
     }
     if (file.size() > largestFile) {
-        _refusal = QStringLiteral("not a raw dump: %1 bytes, a dump has no more than %2")
+        _refusal = tr("not a raw dump: %1 bytes, a dump has no more than %2")
                        .arg(grouped(file.size()), grouped(largestFile));
         return false;
     }
@@ -92,17 +92,16 @@ bool OdoData::parseData()
     if (_data.size() < dumpSize) {
         qCWarning(lcDecode, "[parseData] wrong Datasize");
         if (_refusal.isEmpty())
-            _refusal = QStringLiteral("not a raw dump: %1 bytes, at least %2 are needed")
+            _refusal = tr("not a raw dump: %1 bytes, at least %2 are needed")
                            .arg(grouped(_data.size()), grouped(dumpSize));
         return false;
     }
     if (!checkForValidSignature()) {
-        _refusal =
-            QStringLiteral("not a raw dump: it does not begin with \"%1\"").arg(QLatin1String(signature));
+        _refusal = tr("not a raw dump: it does not begin with \"%1\"").arg(QLatin1String(signature));
         return false;
     }
     if (!recordAreaIsText()) {
-        _refusal = QStringLiteral("not a raw dump: no record and no hexadecimal digits at byte %1")
+        _refusal = tr("not a raw dump: no record and no hexadecimal digits at byte %1")
                        .arg(grouped(recordAreaOffset));
         return false;
     }

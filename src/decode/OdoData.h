@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QString>
 
@@ -18,6 +19,8 @@ namespace ridelog {
 /// The decoder of one raw dump: general data and tours. It decodes in its initializer and only serves the
 /// results afterwards. A dump that cannot be decoded leaves both results empty, and `refusal` says why.
 class OdoData {
+    Q_DECLARE_TR_FUNCTIONS(OdoData)
+
 public:
     /// Larger files are refused before they are read: they are something else.
     static constexpr qint64 largestFile = 1024 * 1024;

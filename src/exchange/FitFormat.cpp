@@ -241,10 +241,12 @@ QString FitFormat::refusal(const Tours& tours) const
     for (const auto& tour : tours) {
         const auto end = FitActivity::endOf(*tour);
         if (secondsOf(tour->date()) < Fit::earliestDate)
-            return QStringLiteral("FIT knows no dates before %1, and the tour starts at %2")
+            return QCoreApplication::translate("ExportFormat",
+                                               "FIT knows no dates before %1, and the tour starts at %2")
                 .arg(dateText(Fit::earliestDate), CalendarDate::text(tour->date()));
         if (secondsOf(end) > Fit::latestDate)
-            return QStringLiteral("FIT knows no dates after %1, and the tour ends at %2")
+            return QCoreApplication::translate("ExportFormat",
+                                               "FIT knows no dates after %1, and the tour ends at %2")
                 .arg(dateText(Fit::latestDate), CalendarDate::text(end));
     }
     return {};

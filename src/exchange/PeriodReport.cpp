@@ -6,7 +6,6 @@
 #include "exchange/TourReport.h"
 #include "exchange/TourSummary.h"
 #include "exchange/TourTexts.h"
-#include "format/Counted.h"
 #include "format/ReadableUnits.h"
 #include "library/DefaultsKeys.h"
 #include "platform/Defaults.h"
@@ -23,10 +22,9 @@ namespace {
 /// quarters of a page that browsers can hardly hold then. The lines have all points nevertheless.
 constexpr std::size_t mostReadouts = 100;
 
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("PeriodReport", text);
-}
+struct PeriodReport {
+    Q_DECLARE_TR_FUNCTIONS(PeriodReport)
+};
 
 QByteArray linkTo(const QByteArray& anchor, const QByteArray& html)
 {
@@ -43,8 +41,7 @@ QString titleOf(const ExportSource& source)
 {
     if (source.period && source.period->period != Period::all)
         return periodTitle(source.period->period, source.period->day, source.period->weekRule, QLocale());
-    return source.name.trimmed().isEmpty() ? translated(QT_TRANSLATE_NOOP("PeriodReport", "Tours"))
-                                           : source.name;
+    return source.name.trimmed().isEmpty() ? PeriodReport::tr("Tours") : source.name;
 }
 
 /// "spring, 12 tours, 3/10/2007 – 5/2/2007"
@@ -53,9 +50,7 @@ QString subtitleOf(const Tours& tours, const ExportSource& source)
     QStringList parts;
     if (titleOf(source) != source.name && !source.name.trimmed().isEmpty())
         parts << source.name;
-    parts << counted(static_cast<qsizetype>(tours.size()),
-                     translated(QT_TRANSLATE_NOOP("PeriodReport", "1 tour")),
-                     translated(QT_TRANSLATE_NOOP("PeriodReport", "%1 tours")));
+    parts << PeriodReport::tr("%Ln tour(s)", nullptr, static_cast<int>(tours.size()));
     const auto day = [](const auto& tour) { return tour->date().date(); };
     const auto [first, last] = std::ranges::minmax(tours, {}, day);
     const auto text = [&](const auto& tour) { return QLocale().toString(day(tour), shortDateFormat()); };
@@ -91,9 +86,8 @@ private:
         html += "</dl>\n</div>\n";
         const auto& tours = _stat.toursArray();
         if (std::ranges::any_of(tours, [](const auto& tour) { return tour->removed(); }))
-            html += "<p class=\"note\">" +
-                    escaped(translated(QT_TRANSLATE_NOOP("PeriodReport", "Removed tours are not counted."))) +
-                    "</p>\n";
+            html +=
+                "<p class=\"note\">" + escaped(PeriodReport::tr("Removed tours are not counted.")) + "</p>\n";
         return html;
     }
 
@@ -132,7 +126,7 @@ public:
 
     void write(const ExportSink& sink) const
     {
-        sink.write("<h2 id=\"tours\">" + escaped(translated(QT_TRANSLATE_NOOP("PeriodReport", "Tours"))) +
+        sink.write("<h2 id=\"tours\">" + escaped(PeriodReport::tr("Tours")) +
                    "</h2>\n<div class=\"scroll\">\n<table>\n<thead><tr>" + header() +
                    "</tr></thead>\n<tbody>\n");
         for (std::size_t index = 0; index < _tours.size(); ++index)
@@ -149,16 +143,16 @@ private:
         };
         const char* text = " class=\"text\"";
         const auto unit = ReadableUnits(_defaults.boolForKey(DefaultsKeys::useMiles)).altitudeUnit();
-        add(translated(QT_TRANSLATE_NOOP("PeriodReport", "Start")), text);
-        add(translated(QT_TRANSLATE_NOOP("PeriodReport", "Type")), text);
+        add(PeriodReport::tr("Start"), text);
+        add(PeriodReport::tr("Type"), text);
         if (_hasTitles)
-            add(translated(QT_TRANSLATE_NOOP("PeriodReport", "Title")), text);
-        add(translated(QT_TRANSLATE_NOOP("PeriodReport", "Distance")));
-        add(translated(QT_TRANSLATE_NOOP("PeriodReport", "Duration")));
-        add(translated(QT_TRANSLATE_NOOP("PeriodReport", "Elevation gain (%1)")).arg(unit));
-        add(translated(QT_TRANSLATE_NOOP("PeriodReport", "Average speed")));
-        add(translated(QT_TRANSLATE_NOOP("PeriodReport", "Highest speed")));
-        add(translated(QT_TRANSLATE_NOOP("PeriodReport", "Average pulse")));
+            add(PeriodReport::tr("Title"), text);
+        add(PeriodReport::tr("Distance"));
+        add(PeriodReport::tr("Duration"));
+        add(PeriodReport::tr("Elevation gain (%1)").arg(unit));
+        add(PeriodReport::tr("Average speed"));
+        add(PeriodReport::tr("Highest speed"));
+        add(PeriodReport::tr("Average pulse"));
         return html;
     }
 
@@ -170,7 +164,7 @@ private:
                      locale.toString(tour.date().time(), QLocale::ShortFormat);
         auto html = "<td class=\"text\">" + linkTo(anchorOf(index), escaped(start));
         if (tour.removed())
-            html += ' ' + escaped(translated(QT_TRANSLATE_NOOP("PeriodReport", "(removed)")));
+            html += ' ' + escaped(PeriodReport::tr("(removed)"));
         html += "</td><td class=\"text\">" + escaped(tour.type().value_or(QString())) + "</td>";
         if (_hasTitles)
             html += "<td class=\"text title\">" + escaped(tour.shownTitle()) + "</td>";
@@ -199,7 +193,7 @@ private:
 /// The tour by its number in the report, from 0.
 QByteArray sectionHtml(const OdoTour& tour, std::size_t index, const Defaults& defaults, Readouts readouts)
 {
-    const auto back = escaped(translated(QT_TRANSLATE_NOOP("PeriodReport", "Back to the list of tours")));
+    const auto back = escaped(PeriodReport::tr("Back to the list of tours"));
     return "<section class=\"tour\" id=\"" + anchorOf(index) + "\">\n<h2>" + escaped(reportHeading(tour)) +
            "</h2>\n" + tourReport(tour, defaults, readouts) + "<p class=\"back\">" + linkTo("tours", back) +
            "</p>\n</section>\n";

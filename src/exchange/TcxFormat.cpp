@@ -208,7 +208,8 @@ QString TcxFormat::refusal(const Tours& tours) const
     });
     if (found == tours.end())
         return {};
-    return QStringLiteral("it can tell of the years 1 to 9999 only, and a tour has the date %1")
+    return QCoreApplication::translate("ExportFormat",
+                                       "it can tell of the years 1 to 9999 only, and a tour has the date %1")
         .arg((*found)->description());
 }
 

@@ -3,6 +3,7 @@
 #include "library/FileOfTours.h"
 #include "platform/FileName.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -74,7 +75,7 @@ private:
 std::optional<QString> makeFolder(const QString& path)
 {
     if (const QFileInfo info(path); info.isSymLink() && !info.exists())
-        return QStringLiteral("it is a link that leads nowhere");
+        return QCoreApplication::translate("TourExport", "it is a link that leads nowhere");
     std::error_code error;
     std::filesystem::create_directories(QFile::encodeName(path).toStdString(), error);
     return error ? std::optional(QString::fromLocal8Bit(error.message().c_str())) : std::nullopt;
@@ -88,9 +89,9 @@ std::optional<QString> writeFile(const ExportFile& file, const ByteSource& conte
 {
     const bool replaces = file.isThere && existing == TourExport::Existing::replace;
     if (file.isThere && !replaces)
-        return QStringLiteral("it is there already");
+        return QCoreApplication::translate("TourExport", "it is there already");
     if (replaces && holdsTours(file.path))
-        return QStringLiteral("it holds tours, which an export would replace");
+        return QCoreApplication::translate("TourExport", "it holds tours, which an export would replace");
     auto whole = std::make_unique<WholeFile>(file.path);
     if (auto error = whole->write(content, [&isWanted] { return isWanted; }))
         return error;

@@ -5,6 +5,7 @@
 #include "platform/Defaults.h"
 #include "platform/WholeFile.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -94,7 +95,8 @@ std::optional<QString> AppController::saveDocumentAs(MyDocument& document, const
 {
     const auto location = absolutePath(path);
     if (_recovery.holds(location))
-        return QStringLiteral("changes that are not saved are kept in this folder, and nothing else");
+        return QCoreApplication::translate(
+            "AppController", "changes that are not saved are kept in this folder, and nothing else");
     auto error = document.saveAs(location);
     if (!error)
         noteRecentDocument(location);

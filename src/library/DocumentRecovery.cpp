@@ -6,6 +6,7 @@
 #include "platform/MainThread.h"
 #include "platform/WholeFile.h"
 
+#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFileInfo>
@@ -27,15 +28,17 @@ QString changeOfFile(const QString& path, const std::optional<FileState>& known)
     if (path.isEmpty())
         return {};
     if (known && !QFileInfo::exists(path))
-        return QStringLiteral("its file is gone");
+        return QCoreApplication::translate("DocumentRecovery", "its file is gone");
     DocumentFile file(path);
     file.setKnown(known);
-    return file.wasChangedByOthers() ? QStringLiteral("its file has been changed since") : QString();
+    return file.wasChangedByOthers()
+               ? QCoreApplication::translate("DocumentRecovery", "its file has been changed since")
+               : QString();
 }
 
 QString takenByAnother()
 {
-    return QStringLiteral("another program has taken it meanwhile");
+    return QCoreApplication::translate("DocumentRecovery", "another program has taken it meanwhile");
 }
 
 void logProblem(const QString& reason)
@@ -255,7 +258,8 @@ std::vector<Leftover> DocumentRecovery::find(Kind kind) const
 std::optional<QString> DocumentRecovery::recover(const Leftover& leftover, MyDocument& document)
 {
     if (document.isChanged())
-        return QStringLiteral("the document is open and has changes that are not saved");
+        return QCoreApplication::translate("DocumentRecovery",
+                                           "the document is open and has changes that are not saved");
     auto folder = RecoveryFolder::hold(leftover.folder);
     if (!folder)
         return takenByAnother();

@@ -5,6 +5,7 @@
 #include "platform/TypedStreamReader.h"
 #include "platform/TypedStreamWriter.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -70,7 +71,7 @@ struct MyDocument::Content {
                 tours.push_back(std::move(tour));
         });
         if (!isList)
-            reader.fail(QStringLiteral("\"%1\" is no list").arg(toursArrayKey));
+            reader.fail(QCoreApplication::translate("MyDocument", "\"%1\" is no list").arg(toursArrayKey));
         return tours;
     }
 
@@ -82,7 +83,8 @@ struct MyDocument::Content {
             addTo(generalData.numbers, key, reader.readObject(), generalData.otherEntries);
         });
         if (!isDictionary)
-            reader.fail(QStringLiteral("\"%1\" is no dictionary").arg(generalDataKey));
+            reader.fail(
+                QCoreApplication::translate("MyDocument", "\"%1\" is no dictionary").arg(generalDataKey));
         return generalData;
     }
 
@@ -98,11 +100,12 @@ struct MyDocument::Content {
                 otherEntries.emplace_back(key, reader.readObject());
         });
         if (!isDictionary)
-            reader.fail(QStringLiteral("an archive, but not of a tour library"));
+            reader.fail(QCoreApplication::translate("MyDocument", "an archive, but not of a tour library"));
         for (const auto& [key, found] :
              {std::pair(toursArrayKey, tours.has_value()), {generalDataKey, generalData.has_value()}}) {
             if (!found)
-                reader.fail(QStringLiteral("not a tour library: \"%1\" is missing").arg(key));
+                reader.fail(QCoreApplication::translate("MyDocument", "not a tour library: \"%1\" is missing")
+                                .arg(key));
         }
     }
 };
@@ -229,7 +232,8 @@ bool MyDocument::loadDataRepresentation(const QByteArray& data, const QString& o
     Content content;
     content.read(reader, now);
     if (reader.failed()) {
-        _refusal = QStringLiteral("not a readable document: ") + reader.error()->text();
+        _refusal = QCoreApplication::translate("MyDocument", "not a readable document: %1")
+                       .arg(reader.error()->text());
         return false;
     }
     _refusal.clear();

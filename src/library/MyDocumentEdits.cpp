@@ -18,7 +18,7 @@ namespace {
 
 QString addingTours(std::size_t count)
 {
-    return QStringLiteral("adding %1 tours").arg(count);
+    return MyDocument::tr("adding %n tours", nullptr, static_cast<int>(count));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "library/MyDocument.h"
 #include "platform/TypedStreamReader.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace ridelog {
@@ -8,7 +9,7 @@ namespace {
 
 QString unsaved()
 {
-    return QStringLiteral("the document has no file yet");
+    return QCoreApplication::translate("MyDocument", "the document has no file yet");
 }
 
 } // namespace
@@ -44,7 +45,7 @@ std::optional<QString> MyDocument::openForReading(const QString& path, const QDa
     DocumentFile file(path);
     if (auto error = readFrom(file, now))
         return error;
-    _readOnlyReason = QStringLiteral("it was opened for reading only");
+    _readOnlyReason = QCoreApplication::translate("MyDocument", "it was opened for reading only");
     _file = std::move(file);
     return std::nullopt;
 }

@@ -2,6 +2,7 @@
 
 #include "platform/SystemCall.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -139,7 +140,8 @@ std::unique_ptr<RecoveryFolder> RecoveryFolder::make(const QString& parent, QStr
             ::rmdir(name.constData());
     }
     if (!folder) {
-        error = QStringLiteral("%1: folders cannot be locked there").arg(parent);
+        error =
+            QCoreApplication::translate("DocumentRecovery", "%1: folders cannot be locked there").arg(parent);
         return nullptr;
     }
     if (auto failure = forceFolder(parent)) {
@@ -182,7 +184,8 @@ RecoveryFacts RecoveryFolder::facts() const
     if (!json.isEmpty())
         return factsIn(json);
     RecoveryFacts unknown;
-    unknown.refusal = QStringLiteral("%1 is damaged").arg(filePath(factsName));
+    unknown.refusal =
+        QCoreApplication::translate("DocumentRecovery", "%1 is damaged").arg(filePath(factsName));
     return unknown;
 }
 
@@ -230,7 +233,7 @@ std::optional<QString> RecoveryFolder::remove()
     // First what makes it count: what a program that ends here leaves is nobody's document.
     QFile::remove(filePath(factsName));
     if (!QDir(_path).removeRecursively())
-        return QStringLiteral("%1 cannot be removed").arg(_path);
+        return QCoreApplication::translate("DocumentRecovery", "%1 cannot be removed").arg(_path);
     return std::nullopt;
 }
 

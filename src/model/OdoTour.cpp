@@ -4,6 +4,7 @@
 #include "model/TourLog.h"
 #include "platform/UndoManager.h"
 
+#include <QCoreApplication>
 #include <QTimeZone>
 
 #include <utility>
@@ -106,7 +107,8 @@ void OdoTour::setDate(const QDateTime& date)
 {
     if (date == _date && date.timeZone() == _date.timeZone())
         return;
-    registerUndo(QStringLiteral("date changed"), [old = _date](OdoTour& tour) { tour.setDate(old); });
+    registerUndo(QCoreApplication::translate("OdoTour", "date changed"),
+                 [old = _date](OdoTour& tour) { tour.setDate(old); });
     _date = date;
     tellChange();
 }
@@ -153,7 +155,8 @@ void OdoTour::setTitle(const QString& title)
 {
     if (title == _title)
         return;
-    registerUndo(QStringLiteral("change title"), [old = _title](OdoTour& tour) { tour.setTitle(old); });
+    registerUndo(QCoreApplication::translate("OdoTour", "change title"),
+                 [old = _title](OdoTour& tour) { tour.setTitle(old); });
     _title = title;
     tellChange();
 }
@@ -169,7 +172,7 @@ void OdoTour::setTourDescription(const StyledText& description)
     qCDebug(lcTour, "[setTourDescription]");
     if (description == _description)
         return;
-    registerUndo(QStringLiteral("change description"),
+    registerUndo(QCoreApplication::translate("OdoTour", "change description"),
                  [old = _description](OdoTour& tour) { tour.setTourDescription(old); });
     _description = description;
     tellChange();
@@ -183,7 +186,8 @@ void OdoTour::setTourDescription(const QString& plainText)
 void OdoTour::setRemoved(bool removed)
 {
     qCDebug(lcTour, "[setRemoved(%d)]", removed);
-    registerUndo(QStringLiteral("tour removed"), [removed](OdoTour& tour) { tour.setRemoved(!removed); });
+    registerUndo(QCoreApplication::translate("OdoTour", "tour removed"),
+                 [removed](OdoTour& tour) { tour.setRemoved(!removed); });
     _removed = removed;
     tellChange();
 }

@@ -3,6 +3,8 @@
 #include "platform/TypedStreamReader.h"
 #include "platform/TypedStreamWriter.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace ridelog {
@@ -30,11 +32,11 @@ bool isNext(TypedStreamReader& reader, const char* className)
 
 /// Refuses the archive unless an object of the class comes next, or nil: what is taken for another thing, or
 /// for nothing, would be lost when the tour is stored again.
-void expect(TypedStreamReader& reader, const char* className, const QString& what)
+void expect(TypedStreamReader& reader, const char* className, const char* problem)
 {
     const auto* next = reader.nextClass();
     if (reader.nextType() != '@' || (next && !next->isKindOf(className)))
-        reader.fail(QStringLiteral("%1 of a tour is missing or damaged").arg(what));
+        reader.fail(QCoreApplication::translate("OdoTour", problem));
 }
 
 bool readField(TypedStreamReader& reader, std::optional<QString>& field)
@@ -52,7 +54,8 @@ bool readField(TypedStreamReader& reader, std::optional<std::int32_t>& field)
     if (const auto number = reader.readNumber()) {
         field = number->toInt32();
         if (!field)
-            reader.fail(QStringLiteral("a start value of a tour is no whole number of 32 bits"));
+            reader.fail(QCoreApplication::translate("OdoTour",
+                                                    "a start value of a tour is no whole number of 32 bits"));
     }
     return true;
 }
@@ -116,13 +119,14 @@ std::shared_ptr<OdoTour> OdoTour::initWithCoder(TypedStreamReader& reader, const
     const auto* storedClass = reader.openObject();
     const auto version = storedClass ? storedClass->versionOf(tourClassName) : std::nullopt;
     if (!version) {
-        reader.fail(QStringLiteral("a tour is missing"));
+        reader.fail(QCoreApplication::translate("OdoTour", "a tour is missing"));
         return nullptr;
     }
     qCDebug(lcTour, "Version %d", *version);
     if (*version < 0 || *version == 5 || *version > storedVersion) {
-        reader.fail(
-            QStringLiteral("a tour is stored in version %1, which this program does not know").arg(*version));
+        reader.fail(QCoreApplication::translate(
+                        "OdoTour", "a tour is stored in version %1, which this program does not know")
+                        .arg(*version));
         return nullptr;
     }
 
@@ -131,30 +135,34 @@ std::shared_ptr<OdoTour> OdoTour::initWithCoder(TypedStreamReader& reader, const
     tour->_title = untitled();
     tour->_description = StyledText(untitled());
     tour->_dataIsBigEndian = true;
-    expect(reader, "NSDictionary", QStringLiteral("the recording"));
+    expect(reader, "NSDictionary",
+           QT_TRANSLATE_NOOP("OdoTour", "the recording of a tour is missing or damaged"));
     auto tourDict = readDictionary(reader);
     if (*version >= 2) {
-        expect(reader, "NSString", QStringLiteral("the title"));
+        expect(reader, "NSString", QT_TRANSLATE_NOOP("OdoTour", "the title of a tour is missing or damaged"));
         tour->_title = reader.readString().value_or(untitled());
         if (const auto description = StyledText::fromArchive(reader.readObject()))
             tour->_description = *description;
         else
-            reader.fail(QStringLiteral("the description of a tour is missing or damaged"));
+            reader.fail(
+                QCoreApplication::translate("OdoTour", "the description of a tour is missing or damaged"));
     }
     if (*version >= 3) {
-        expect(reader, "NSData", QStringLiteral("the removed mark"));
+        expect(reader, "NSData",
+               QT_TRANSLATE_NOOP("OdoTour", "the removed mark of a tour is missing or damaged"));
         const auto mark = reader.readData().value_or(QByteArrayView());
         tour->_removed = !mark.isEmpty() && mark.front() != 0;
     }
     if (*version >= 4) {
-        expect(reader, "NSDate", QStringLiteral("the start"));
+        expect(reader, "NSDate", QT_TRANSLATE_NOOP("OdoTour", "the start of a tour is missing or damaged"));
         tour->_date = reader.readObject().toDate().value_or(QDateTime());
     }
     if (*version >= 6) {
         if (const auto isBigEndian = reader.readNumber())
             tour->_dataIsBigEndian = isBigEndian->toBool();
         else
-            reader.fail(QStringLiteral("the byte order of a tour is missing or damaged"));
+            reader.fail(
+                QCoreApplication::translate("OdoTour", "the byte order of a tour is missing or damaged"));
     }
     reader.closeObject();
     if (reader.failed())

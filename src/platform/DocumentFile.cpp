@@ -1,7 +1,9 @@
 #include "platform/DocumentFile.h"
 
+#include "platform/Languages.h"
 #include "platform/TypedStreamReader.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
@@ -84,8 +86,9 @@ std::optional<QString> DocumentFile::lock()
     if (lock->error() != QLockFile::LockFailedError)
         return std::nullopt;
     if (!ownerIsKnown)
-        return QStringLiteral("another program has it open");
-    return QStringLiteral("%1 has it open (process %2 on %3)").arg(program).arg(process).arg(host);
+        return QCoreApplication::translate("DocumentFile", "another program has it open");
+    return QCoreApplication::translate("DocumentFile", "%1 has it open (process %2 on %3)")
+        .arg(program, QString::number(process), host);
 }
 
 std::optional<QString> DocumentFile::read(const Load& load, qint64 largest)
@@ -101,8 +104,8 @@ std::optional<QString> DocumentFile::read(const Load& load, qint64 largest)
     if (::fstat(file.handle(), &found) != 0)
         return qt_error_string();
     if (file.size() > largest)
-        return QStringLiteral("it is too large: %1 bytes, at most %2 are read")
-            .arg(QLocale::c().toString(file.size()), QLocale::c().toString(largest));
+        return QCoreApplication::translate("DocumentFile", "it is too large: %1 bytes, at most %2 are read")
+            .arg(messageLocale().toString(file.size()), messageLocale().toString(largest));
     const auto bytes = file.readAll();
     if (file.error() != QFile::NoError)
         return file.errorString();
@@ -136,7 +139,7 @@ std::optional<QString> DocumentFile::write(const ByteSource& content)
     if (auto error = file.write(content))
         return error;
     if (auto error = keepBackup())
-        return QStringLiteral("no backup can be kept: ") + *error;
+        return QCoreApplication::translate("DocumentFile", "no backup can be kept: %1").arg(*error);
     // Once more: forcing bytes to a disk takes its time.
     if (auto change = changeOfOthers())
         return change;
@@ -166,7 +169,8 @@ QString DocumentFile::passingPath(const QString& suffix) const
 
 std::optional<QString> DocumentFile::changeOfOthers() const
 {
-    return wasChangedByOthers() ? std::optional(QStringLiteral("another program has changed it meanwhile"))
+    return wasChangedByOthers() ? std::optional(QCoreApplication::translate(
+                                      "DocumentFile", "another program has changed it meanwhile"))
                                 : std::nullopt;
 }
 

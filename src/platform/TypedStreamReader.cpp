@@ -1,5 +1,6 @@
 #include "platform/TypedStreamReader.h"
 
+#include "platform/Languages.h"
 #include "platform/TypedStreamMarks.h"
 
 #include <QLocale>
@@ -32,7 +33,10 @@ constexpr qint64 memoryFactor = 4;
 constexpr qint64 memoryAtLeast = 64 << 20;
 constexpr qint64 memoryNotCounted = 8 << 20;
 
-const QString otherKind = QStringLiteral("reference to an entry of another kind");
+QString otherKind()
+{
+    return TypedStreamReader::tr("reference to an entry of another kind");
+}
 
 constexpr qsizetype headerSize = 2 + littleEndianSignature.size();
 
@@ -51,7 +55,7 @@ qint64 memoryFor(qsizetype archive)
 
 QString TypedStreamError::text() const
 {
-    return QStringLiteral("%1 at byte %2").arg(what, QLocale(QLocale::English).toString(offset));
+    return TypedStreamReader::tr("%1 at byte %2").arg(what, messageLocale().toString(offset));
 }
 
 TypedStreamReader::TypedStreamReader(QByteArrayView bytes)
@@ -73,12 +77,12 @@ bool TypedStreamReader::isTypedStream(QByteArrayView firstBytes)
 void TypedStreamReader::readHeader()
 {
     if (_bytes.size() > largestArchive)
-        return failAt(0, QStringLiteral("archives of more than 1 GiB are not read"));
+        return failAt(0, tr("archives of more than 1 GiB are not read"));
     if (!isTypedStream(_bytes))
-        return failAt(0, QStringLiteral("no typed stream"));
+        return failAt(0, tr("no typed stream"));
     _bigEndian = hasSignature(_bytes, bigEndianSignature);
     if (_bytes[0] != streamerVersion)
-        return failAt(0, QStringLiteral("typed stream of unknown version %1").arg(int{_bytes[0]}));
+        return failAt(0, tr("typed stream of unknown version %1").arg(int{_bytes[0]}));
     _at.position = headerSize;
     takeInteger(); // the system's version, of which nothing depends
 }
@@ -96,8 +100,7 @@ void TypedStreamReader::failAt(qsizetype offset, const QString& what)
 
 void TypedStreamReader::failForMemory()
 {
-    fail(
-        QStringLiteral("what it holds takes more than %1 MiB of memory").arg(memoryFor(_bytes.size()) >> 20));
+    fail(tr("what it holds takes more than %1 MiB of memory").arg(memoryFor(_bytes.size()) >> 20));
 }
 
 // Bytes and integers
@@ -108,7 +111,7 @@ bool TypedStreamReader::need(quint64 bytes)
         return false;
     if (bytes <= static_cast<quint64>(bytesLeft()))
         return true;
-    fail(QStringLiteral("%1 bytes wanted, %2 left").arg(bytes).arg(bytesLeft()));
+    fail(tr("%1 bytes wanted, %2 left").arg(bytes).arg(bytesLeft()));
     return false;
 }
 
@@ -149,7 +152,7 @@ qint64 TypedStreamReader::takeInteger(std::uint8_t tag)
     default:
         if (tag < 0x80 || tag >= firstOneByteNegative)
             return static_cast<std::int8_t>(tag);
-        failAt(_at.position - 1, QStringLiteral("an integer expected, not the mark 0x%1").arg(tag, 2, 16));
+        failAt(_at.position - 1, tr("an integer expected, not the mark 0x%1").arg(tag, 2, 16));
         return 0;
     }
 }
@@ -168,14 +171,14 @@ qint64 TypedStreamReader::takeIntegerOfType(char code)
     const bool isLongLong = code == 'q' || code == 'Q';
     if (!isLongLong &&
         !(isShort ? fits(std::int16_t{}, std::uint16_t{}) : fits(std::int32_t{}, std::uint32_t{})))
-        failAt(start, QStringLiteral("the integer %1 does not fit its type").arg(value));
+        failAt(start, tr("the integer %1 does not fit its type").arg(value));
     return value;
 }
 
 QByteArrayView TypedStreamReader::takeBytes(qint64 count)
 {
     if (count < 0)
-        fail(QStringLiteral("negative length %1").arg(count));
+        fail(tr("negative length %1").arg(count));
     if (!need(static_cast<quint64>(count)))
         return {};
     const auto bytes = _bytes.sliced(_at.position, count);
@@ -195,7 +198,7 @@ TypedStreamReader::Head TypedStreamReader::takeHead(std::uint32_t tableSize, std
     if (failed())
         return Head::nil;
     if (value < firstReference || value >= qint64{tableSize} + firstReference) {
-        failAt(start, QStringLiteral("reference to an entry that is not there"));
+        failAt(start, tr("reference to an entry that is not there"));
         return Head::nil;
     }
     number = static_cast<std::uint32_t>(value - firstReference);
@@ -260,7 +263,7 @@ std::optional<std::uint32_t> TypedStreamReader::takeCString()
     case Head::reference:
         if (_objects[number].entry() == Entry::cString)
             return _objects[number].place();
-        fail(otherKind);
+        fail(otherKind());
         return std::nullopt;
     case Head::isNew:
         break;
@@ -268,7 +271,7 @@ std::optional<std::uint32_t> TypedStreamReader::takeCString()
     number = addEntry({0, Entry::cString});
     const auto text = takeSharedString();
     if (!text)
-        fail(QStringLiteral("a text expected"));
+        fail(tr("a text expected"));
     else
         _objects[number] = {*text, Entry::cString};
     return text;
@@ -300,17 +303,17 @@ std::optional<std::uint32_t> TypedStreamReader::takeClass()
             if (_objects[number].isFinishedClass())
                 found = _objects[number].place();
             else
-                fail(otherKind);
+                fail(otherKind());
             break;
         case Head::isNew:
             if (length == longestClassChain) {
-                fail(QStringLiteral("a chain of more than 64 classes"));
+                fail(tr("a chain of more than 64 classes"));
                 break;
             }
             number = addEntry({TableEntry::unfinished, Entry::classEntry});
             const auto name = takeSharedString();
             if (!name || _strings[*name].length == 0 || _strings[*name].length > longestName)
-                fail(QStringLiteral("no class name"));
+                fail(tr("no class name"));
             else
                 chain[length++] = {number, *name, static_cast<int>(takeIntegerOfType('i'))};
             break;
@@ -334,9 +337,9 @@ std::uint32_t TypedStreamReader::addClass(std::uint32_t name, int version, const
     for (const auto* above = superclass; above; above = above->superclass)
         ++chain;
     if (chain > longestClassChain)
-        fail(QStringLiteral("a chain of more than 64 classes"));
+        fail(tr("a chain of more than 64 classes"));
     if (_graph->classes.size() == mostClasses)
-        fail(QStringLiteral("more than 65,536 classes"));
+        fail(tr("more than 65,536 classes"));
     charge(sizeof(ArchiveClass));
     _graph->classes.push_back({_graph->string(keptString(name)), version, superclass});
     return static_cast<std::uint32_t>(_graph->classes.size() - 1);
@@ -372,7 +375,7 @@ std::int32_t TypedStreamReader::takeGroup(std::optional<std::uint32_t>& typeStri
         }
     }
     if (!typeString || _strings[*typeString].types < 0) {
-        failAt(start, QStringLiteral("no type string of values that can be read"));
+        failAt(start, tr("no type string of values that can be read"));
         return -1;
     }
     return _strings[*typeString].types;
@@ -384,7 +387,7 @@ TypedStreamReader::Item TypedStreamReader::next()
         if (failed() || (_open.empty() && bytesLeft() == 0))
             return {};
         if (_open.empty() && isNextByte(endOfObject))
-            fail(QStringLiteral("the end of an object that was not begun"));
+            fail(tr("the end of an object that was not begun"));
         std::optional<std::uint32_t> typeString;
         const auto types = takeGroup(typeString);
         if (types < 0)
@@ -413,7 +416,7 @@ TypedStreamReader::FoundObject TypedStreamReader::takeObject()
     if (found.head == Head::isNew)
         found.number = addEntry({_at.position, Entry::object});
     else if (found.head == Head::reference && !isObject(found.number))
-        failAt(start, otherKind);
+        failAt(start, otherKind());
     return failed() ? FoundObject{} : found;
 }
 
@@ -421,7 +424,7 @@ std::optional<std::uint32_t> TypedStreamReader::takeObjectClass()
 {
     const auto index = takeClass();
     if (!index)
-        fail(QStringLiteral("an object without a class"));
+        fail(tr("an object without a class"));
     return index;
 }
 
@@ -450,7 +453,7 @@ bool TypedStreamReader::mayNest(std::size_t depth)
 {
     if (_open.size() + depth < deepestNesting)
         return !failed();
-    fail(QStringLiteral("objects nested more than 200 deep"));
+    fail(tr("objects nested more than 200 deep"));
     return false;
 }
 
@@ -461,7 +464,7 @@ const ArchiveClass* TypedStreamReader::open(FoundObject found, Cursor value)
         return nullptr;
     if (isReference && std::any_of(_open.begin(), _open.end(),
                                    [&](const auto& outer) { return outer.number == found.number; })) {
-        failAt(value.position, QStringLiteral("an object that contains itself"));
+        failAt(value.position, tr("an object that contains itself"));
         return nullptr;
     }
     const auto parent = _at;
@@ -476,7 +479,7 @@ const ArchiveClass* TypedStreamReader::openObject()
 {
     const auto item = next();
     if (item.kind != Kind::object) {
-        fail(QStringLiteral("an object expected"));
+        fail(tr("an object expected"));
         return nullptr;
     }
     const auto value = _at;
@@ -537,7 +540,7 @@ void TypedStreamReader::skip()
 {
     const auto item = next();
     if (item.kind == Kind::none)
-        return fail(QStringLiteral("a value expected"));
+        return fail(tr("a value expected"));
     const auto value = _at;
     skipItem(value.types, value.item, 0);
     consume(item);
@@ -613,7 +616,7 @@ void TypedStreamReader::readAgain(qint64 bytes)
 {
     _mayReadAgain -= costOfReference + bytes;
     if (_mayReadAgain < 0)
-        fail(QStringLiteral("references to the same objects over and over again"));
+        fail(tr("references to the same objects over and over again"));
 }
 
 // Values
@@ -648,7 +651,7 @@ qint64 TypedStreamReader::readInteger()
     else if (item.kind == Kind::integer)
         value = takeIntegerOfType(item.code);
     else
-        fail(QStringLiteral("an integer expected"));
+        fail(tr("an integer expected"));
     if (failed())
         return 0;
     consume(item);
@@ -679,7 +682,7 @@ QByteArrayView TypedStreamReader::readBytes()
     else if (item.kind == Kind::text)
         bytes = takeText();
     else
-        fail(QStringLiteral("bytes expected"));
+        fail(tr("bytes expected"));
     if (failed())
         return {};
     consume(item);
@@ -695,7 +698,7 @@ QByteArrayView TypedStreamReader::readCString()
     else if (item.kind == Kind::atom)
         string = takeSharedString();
     else
-        fail(QStringLiteral("a C string expected"));
+        fail(tr("a C string expected"));
     if (failed())
         return {};
     consume(item);

@@ -7,6 +7,7 @@
 #include "platform/ArchiveTypes.h"
 
 #include <QByteArrayView>
+#include <QCoreApplication>
 #include <QHash>
 #include <QString>
 
@@ -38,6 +39,8 @@ struct TypedStreamError {
 /// is bounded by the archive's size, and so is the memory that is taken (see `charge`), whatever the bytes
 /// are.
 class TypedStreamReader {
+    Q_DECLARE_TR_FUNCTIONS(TypedStreamReader)
+
 public:
     /// Reads `bytes`, which have to outlive the reader. Objects that `readObject` keeps outlive both.
     explicit TypedStreamReader(QByteArrayView bytes);

@@ -12,7 +12,7 @@ ArchiveObject TypedStreamReader::readObject()
 {
     const auto item = next();
     if (item.kind != Kind::object) {
-        fail(QStringLiteral("an object expected"));
+        fail(tr("an object expected"));
         return {};
     }
     consume(item);
@@ -35,7 +35,7 @@ ArchiveObject TypedStreamReader::readArchive()
     _graph->begin(index, std::nullopt);
     _graph->end(index, keepGroups(0));
     if (!failed() && bytesLeft() > 0)
-        fail(QStringLiteral("the end of an object that was not begun"));
+        fail(tr("the end of an object that was not begun"));
     keepReferenced();
     return failed() ? ArchiveObject() : ArchiveObject(_graph, index);
 }

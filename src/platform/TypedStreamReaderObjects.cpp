@@ -55,7 +55,7 @@ std::optional<QByteArrayView> TypedStreamReader::readData()
     const auto count = readInteger();
     const auto bytes = atEnd() ? QByteArrayView() : readBytes();
     if (bytes.size() != count)
-        fail(QStringLiteral("a data block of %1 bytes that says %2").arg(bytes.size()).arg(count));
+        fail(tr("a data block of %1 bytes that says %2").arg(bytes.size()).arg(count));
     closeObject();
     return failed() ? std::nullopt : std::optional(bytes);
 }
@@ -67,14 +67,14 @@ std::optional<qsizetype> TypedStreamReader::openCounted(QByteArrayView className
         return std::nullopt;
     const auto count = readInteger();
     if (count < 0 || count > bytesLeft())
-        fail(QStringLiteral("%1 elements do not fit into %2 bytes").arg(count).arg(bytesLeft()));
+        fail(tr("%1 elements do not fit into %2 bytes").arg(count).arg(bytesLeft()));
     return failed() ? 0 : count;
 }
 
 bool TypedStreamReader::hasElement(qsizetype index, qsizetype count)
 {
     if (atEnd())
-        fail(QStringLiteral("the list ends after %1 of %2 elements").arg(index).arg(count));
+        fail(tr("the list ends after %1 of %2 elements").arg(index).arg(count));
     return !failed();
 }
 
@@ -86,7 +86,7 @@ void TypedStreamReader::readBlocks(char* out, qsizetype blockSize, qsizetype cou
             return;
         const auto block = readData();
         if (!block || block->size() != blockSize)
-            return fail(QStringLiteral("a data block of %1 bytes expected").arg(blockSize));
+            return fail(tr("a data block of %1 bytes expected").arg(blockSize));
         std::memcpy(out + done * blockSize, block->data(), static_cast<std::size_t>(blockSize));
         ++done;
         if (block->end() + 1 == _bytes.begin() + _at.position)

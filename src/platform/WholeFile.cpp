@@ -2,6 +2,7 @@
 
 #include "platform/SystemCall.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -25,7 +26,7 @@ QByteArray temporaryName(const QByteArray& folder)
 
 QString inFolder(const QString& error)
 {
-    return QStringLiteral("nothing can be written in its folder: ") + error;
+    return QCoreApplication::translate("WholeFile", "nothing can be written in its folder: %1").arg(error);
 }
 
 using Move = bool (*)(const QByteArray& from, const QByteArray& to);
@@ -201,7 +202,8 @@ std::optional<QString> WholeFile::moveTo(const QByteArray& name, Move move)
     }
     const auto state = _newFile->moveTo(name, move);
     if (!state)
-        return errno == EEXIST ? QStringLiteral("it is there already") : systemError();
+        return errno == EEXIST ? QCoreApplication::translate("WholeFile", "it is there already")
+                               : systemError();
     _state = *state;
     return std::nullopt;
 }
@@ -276,14 +278,14 @@ std::optional<QString> whyNoFile(const QString& path)
 {
     // The system would take the part before it for the name.
     if (path.contains(QChar::Null))
-        return QStringLiteral("no file can have this name");
+        return QCoreApplication::translate("WholeFile", "no file can have this name");
     const QFileInfo info(path);
     if (info.isDir())
-        return QStringLiteral("it is a folder");
+        return QCoreApplication::translate("WholeFile", "it is a folder");
     if (info.exists() && !info.isFile())
-        return QStringLiteral("it is not a regular file");
+        return QCoreApplication::translate("WholeFile", "it is not a regular file");
     if (!info.exists() && info.isSymLink())
-        return QStringLiteral("it is a link that leads nowhere");
+        return QCoreApplication::translate("WholeFile", "it is a link that leads nowhere");
     return std::nullopt;
 }
 

@@ -1,6 +1,5 @@
 #include "ui/ApplicationWindows.h"
 
-#include "format/Counted.h"
 #include "library/AppController.h"
 #include "platform/Defaults.h"
 #include "ui/MainWindowController.h"
@@ -160,9 +159,10 @@ void ApplicationWindows::offerLeftovers()
 
 bool ApplicationWindows::offerLeftover(const Leftover& leftover)
 {
-    const auto tours = counted(leftover.tours, tr("1 tour"), tr("%1 tours"));
     const auto date = QLocale().toString(leftover.written.toLocalTime(), QLocale::ShortFormat);
-    auto kept = tr("The document as it was on %1, with %2, was kept.").arg(date, tours);
+    auto kept = tr("The document as it was on %1, with %Ln tour(s), was kept.", "date",
+                   static_cast<int>(leftover.tours))
+                    .arg(date);
     if (!leftover.fileChange.isEmpty())
         kept += u' ' + tr("Meanwhile %1.").arg(leftover.fileChange);
     Sheet sheet(nullptr, QMessageBox::Question,

@@ -157,7 +157,7 @@ QString ExportPanel::files() const
                            isTogether() ? TourExport::Layout::oneFile : TourExport::Layout::filePerTour);
     const auto name = QFileInfo(first.files().front().path).fileName();
     const auto count = isTogether() ? 1 : chosenTours().size();
-    return count == 1 ? name : tr("%1 files, such as %2").arg(QLocale().toString(count), name);
+    return count == 1 ? name : tr("%Ln file(s), such as %1", nullptr, static_cast<int>(count)).arg(name);
 }
 
 const Tours& ExportPanel::chosenTours() const

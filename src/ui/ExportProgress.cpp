@@ -36,9 +36,7 @@ void ExportProgress::setTours(std::size_t done)
 {
     _bar->setValue(static_cast<int>(done));
     const auto all = _bar->maximum();
-    const QLocale locale;
-    _text->setText(all == 1 ? tr("%1 of 1 tour").arg(locale.toString(done))
-                            : tr("%1 of %2 tours").arg(locale.toString(done), locale.toString(all)));
+    _text->setText(tr("%1 of %Ln tour(s)", "number of tours done", all).arg(QLocale().toString(done)));
 }
 
 QString ExportProgress::text() const

@@ -1,6 +1,5 @@
 // Menus, tool bar and what they do.
 
-#include "format/Counted.h"
 #include "library/AppController.h"
 #include "library/DefaultsKeys.h"
 #include "platform/Defaults.h"

@@ -1,7 +1,6 @@
 #include "ui/MainWindowController.h"
 
 #include "chart/ChartArrayView.h"
-#include "format/Counted.h"
 #include "format/ReadableUnits.h"
 #include "format/UnitFormatters.h"
 #include "library/DefaultsKeys.h"
@@ -307,8 +306,8 @@ void MainWindowController::showSummary()
             return sum + static_cast<double>(tour->totalDistance());
         });
     const auto distance = UnitFormatters::mainDistance(_defaults).stringForObjectValue(kilometres);
-    _summary->setText(counted(static_cast<qsizetype>(tours.size()), tr("1 tour"), tr("%1 tours")) +
-                      QStringLiteral(", ") + distance);
+    _summary->setText(tr("%Ln tour(s)", nullptr, static_cast<int>(tours.size())) + QStringLiteral(", ") +
+                      distance);
 }
 
 QString MainWindowController::documentName() const

@@ -172,7 +172,7 @@ private:
     void undeleteSelectedTour();
     void showRemoved(bool show);
     void editTitle();
-    qsizetype removedInSelection() const;
+    int removedInSelection() const;
 
     // Files for other programs
     Tours toursToExport() const;

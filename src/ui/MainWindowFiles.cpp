@@ -1,6 +1,5 @@
 // The document's file, and dumps.
 
-#include "format/Counted.h"
 #include "library/AppController.h"
 #include "ui/ApplicationWindows.h"
 #include "ui/MainWindowController.h"
@@ -52,9 +51,9 @@ QString MainWindowController::importedFrom(const QString& path)
         return tr("%1 was not imported: %2").arg(name, import.refusal);
     _tourController.showNewestFirst();
     _tourController.selectRow(0);
-    const auto added =
-        counted(static_cast<qsizetype>(import.added), tr("1 tour added"), tr("%1 tours added"));
-    return tr("%1: %2, %3 already there.").arg(name, added, QLocale().toString(import.alreadyThere));
+    return tr("%1: %Ln tour(s) added, %2 already there.", "file, number of tours",
+              static_cast<int>(import.added))
+        .arg(name, QLocale().toString(import.alreadyThere));
 }
 
 void MainWindowController::importDumps(const QStringList& paths, QStringList told)

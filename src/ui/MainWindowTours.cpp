@@ -1,7 +1,6 @@
 // What is done with the tours of the table.
 
 #include "exchange/TourTexts.h"
-#include "format/Counted.h"
 #include "library/MyDocument.h"
 #include "ui/ApplicationWindows.h"
 #include "ui/MainWindowController.h"
@@ -95,23 +94,24 @@ void MainWindowController::printTour()
 
 // Editing
 
-qsizetype MainWindowController::removedInSelection() const
+int MainWindowController::removedInSelection() const
 {
     const auto selection = _tourController.selection();
-    return std::ranges::count_if(selection, [](const auto& tour) { return tour->removed(); });
+    return static_cast<int>(
+        std::ranges::count_if(selection, [](const auto& tour) { return tour->removed(); }));
 }
 
 void MainWindowController::deleteSelectedTour()
 {
     if (_tourController.selectedRows().empty())
         return;
-    const auto count = static_cast<qsizetype>(_tourController.selectedRows().size()) - removedInSelection();
+    const auto count = static_cast<int>(_tourController.selectedRows().size()) - removedInSelection();
     const auto row = _tourController.selectedRows().front();
     _tourController.deleteSelectedTours();
     // The next one, so that Delete can go on.
     if (_tourController.selectedRows().empty())
         _tourController.selectRow(row);
-    showMessage(counted(count, tr("1 tour removed."), tr("%1 tours removed.")) + u' ' +
+    showMessage(tr("%Ln tour(s) removed.", nullptr, count) + u' ' +
                 tr("What is removed stays in the document: see Edit > Show Removed Tours."));
     tableViewSelectionDidChange();
 }
@@ -120,7 +120,7 @@ void MainWindowController::undeleteSelectedTour()
 {
     const auto count = removedInSelection();
     _tourController.undeleteSelectedTours();
-    showMessage(counted(count, tr("1 tour restored."), tr("%1 tours restored.")));
+    showMessage(tr("%Ln tour(s) restored.", nullptr, count));
     tableViewSelectionDidChange();
 }
 

@@ -1,7 +1,6 @@
 // The way from the device into the document.
 
 #include "device/PortProblem.h"
-#include "format/Counted.h"
 #include "library/DefaultsKeys.h"
 #include "library/RawDump.h"
 #include "platform/Defaults.h"
@@ -196,8 +195,8 @@ QString MainWindowController::receivingText() const
     if (elapsed < 1)
         return tr("Receiving, %1 %").arg(percent);
     const auto left = std::max(elapsed * (whole - received) / received, 0.0);
-    const auto seconds = counted(static_cast<qsizetype>(std::ceil(left)), tr("1 second"), tr("%1 seconds"));
-    return tr("Receiving, %1 %, %2 left").arg(percent, seconds);
+    return tr("Receiving, %1 %, %Ln second(s) left", "percentage", static_cast<int>(std::ceil(left)))
+        .arg(percent);
 }
 
 void MainWindowController::handleTransferFinished()
@@ -231,10 +230,9 @@ void MainWindowController::tellMerged(const MyDocument::Import& import, const QS
         tell(refused + fateOf(import.kept));
         return;
     }
-    const auto added =
-        counted(static_cast<qsizetype>(import.added), tr("1 tour added"), tr("%1 tours added"));
     const auto finished =
-        tr("Finished: %1, %2 already there").arg(added, QLocale().toString(import.alreadyThere));
+        tr("Finished: %Ln tour(s) added, %1 already there", "number of tours", static_cast<int>(import.added))
+            .arg(QLocale().toString(import.alreadyThere));
     // Where a dump is usually kept need not be said each time.
     const bool isNotKept = import.kept && !import.kept->error.isEmpty();
     tell(finished + (isNotKept ? fateOf(import.kept) : QString()) + u'.');

@@ -3,9 +3,9 @@
 
 #include "library/DefaultsKeys.h"
 #include "platform/Defaults.h"
+#include "platform/Languages.h"
 #include "ui/AltitudeRange.h"
 #include "ui/ColourButton.h"
-#include "ui/Languages.h"
 #include "ui/PreferencesController.h"
 #include "ui/PreferencesPage.h"
 #include "ui/RangeLimits.h"
@@ -57,8 +57,9 @@ PreferencesPage* PreferencesController::makeGeneralPage()
     form.addRow(tr("Newer versions:"),
                 page->tied(new QCheckBox(tr("Look for them &automatically")), DefaultsKeys::automaticCheck));
     auto* days = numberField(tr("Days between two looks for newer versions"), 1, mostDays);
-    days->setSuffix(tr(" days"));
-    days->setSpecialValueText(tr("1 day"));
+    const auto showUnit = [days](int count) { days->setSuffix(tr(" day(s)", "after the number", count)); };
+    connect(days, &QSpinBox::valueChanged, days, showUnit);
+    showUnit(days->value());
     enableWhile(*days, _defaults, DefaultsKeys::automaticCheck);
     form.addRow(tr("&Every:"), page->tied(days, DefaultsKeys::checkForUpdateAfterDays));
     enableWhile(*form.labelForField(days), _defaults, DefaultsKeys::automaticCheck);

@@ -41,12 +41,6 @@ struct TourColumn {
 
 namespace {
 
-/// Marks a text for translation; it is translated when it is shown.
-constexpr const char* named(const char* text)
-{
-    return text;
-}
-
 QString dateText(const OdoTour& tour, const TourColumns&)
 {
     return QLocale().toString(tour.date(), QLocale::ShortFormat);
@@ -94,22 +88,29 @@ QString temperatureText(const OdoTour& tour, const TourColumns&)
 }
 
 const TourColumn columns[] = {
-    {TourKey::date, named("Date"), true, false, dateText},
-    {TourKey::type, named("Type"), true, false, typeText},
-    {TourKey::title, named("Title"), true, false, titleText},
-    {TourKey::totalDistance, named("Distance"), true, true, TourColumn::distance},
-    {TourKey::duration, named("Duration"), true, true, durationText},
-    {TourKey::elevationGain, named("Elevation Gain (%1)"), true, true, TourColumn::gain},
-    {TourKey::averageSpeed, named("Average Speed"), true, true, TourColumn::speed<&OdoTour::avgSpeed>},
-    {TourKey::maxSpeed, named("Max Speed"), true, true, TourColumn::speed<&OdoTour::maxSpeed>},
-    {TourKey::averagePulse, named("Average Pulse"), true, true, pulseText<&OdoTour::avgPulse>},
-    {TourKey::maxPulse, named("Max Pulse"), true, true, pulseText<&OdoTour::maxPulse>},
-    {TourKey::averageMovingSpeed, named("Moving Speed"), false, true,
+    {TourKey::date, QT_TRANSLATE_NOOP("TourColumns", "Date"), true, false, dateText},
+    {TourKey::type, QT_TRANSLATE_NOOP("TourColumns", "Type"), true, false, typeText},
+    {TourKey::title, QT_TRANSLATE_NOOP("TourColumns", "Title"), true, false, titleText},
+    {TourKey::totalDistance, QT_TRANSLATE_NOOP("TourColumns", "Distance"), true, true, TourColumn::distance},
+    {TourKey::duration, QT_TRANSLATE_NOOP("TourColumns", "Duration"), true, true, durationText},
+    {TourKey::elevationGain, QT_TRANSLATE_NOOP("TourColumns", "Elevation Gain (%1)"), true, true,
+     TourColumn::gain},
+    {TourKey::averageSpeed, QT_TRANSLATE_NOOP("TourColumns", "Average Speed"), true, true,
+     TourColumn::speed<&OdoTour::avgSpeed>},
+    {TourKey::maxSpeed, QT_TRANSLATE_NOOP("TourColumns", "Max Speed"), true, true,
+     TourColumn::speed<&OdoTour::maxSpeed>},
+    {TourKey::averagePulse, QT_TRANSLATE_NOOP("TourColumns", "Average Pulse"), true, true,
+     pulseText<&OdoTour::avgPulse>},
+    {TourKey::maxPulse, QT_TRANSLATE_NOOP("TourColumns", "Max Pulse"), true, true,
+     pulseText<&OdoTour::maxPulse>},
+    {TourKey::averageMovingSpeed, QT_TRANSLATE_NOOP("TourColumns", "Moving Speed"), false, true,
      TourColumn::speed<&OdoTour::avgMovingSpeed>},
-    {TourKey::climbingCount, named("Climbs"), false, true, climbsText},
-    {TourKey::maxClimbingPercentage, named("Max Grade (%)"), false, true, gradeText},
-    {TourKey::avgPower, named("Power (W)"), false, true, powerText},
-    {TourKey::averageTemp, named("Temperature (°C)"), false, true, temperatureText},
+    {TourKey::climbingCount, QT_TRANSLATE_NOOP("TourColumns", "Climbs"), false, true, climbsText},
+    {TourKey::maxClimbingPercentage, QT_TRANSLATE_NOOP("TourColumns", "Max Grade (%)"), false, true,
+     gradeText},
+    {TourKey::avgPower, QT_TRANSLATE_NOOP("TourColumns", "Power (W)"), false, true, powerText},
+    {TourKey::averageTemp, QT_TRANSLATE_NOOP("TourColumns", "Temperature (°C)"), false, true,
+     temperatureText},
 };
 
 const TourColumn& columnAt(int column)

@@ -1,7 +1,6 @@
 #include "ui/TourExporting.h"
 
 #include "exchange/TourExport.h"
-#include "format/Counted.h"
 #include "library/DefaultsKeys.h"
 #include "platform/Defaults.h"
 #include "ui/ExportPanel.h"
@@ -138,7 +137,7 @@ void Exporting::askToReplace()
     auto* sheet =
         new Sheet(_over, QMessageBox::Question,
                   isOne ? ExportPanel::tr("Replace %1?").arg(names.front())
-                        : ExportPanel::tr("Replace %1 files?").arg(QLocale().toString(names.size())),
+                        : ExportPanel::tr("Replace %Ln file(s)?", nullptr, static_cast<int>(names.size())),
                   isOne ? ExportPanel::tr("It is in %1 already. What it holds is lost then.").arg(folder)
                         : ExportPanel::tr("In %1 there are already %2. What they hold is lost then.")
                               .arg(folder, enumerated(names, QStringLiteral(", "))));
@@ -203,30 +202,32 @@ TourExport::Outcome Exporting::writeServingEvents(TourExport::Existing existing)
 
 QString Exporting::outcomeText(const TourExport::Outcome& outcome) const
 {
-    const auto all = static_cast<qsizetype>(_export.files().size());
-    const auto written = static_cast<qsizetype>(outcome.written);
+    const auto all = static_cast<int>(_export.files().size());
+    const auto written = static_cast<int>(outcome.written);
     const auto& first = _export.files().front().path;
     QStringList sentences;
     if (outcome.wasStopped) {
-        sentences << (written == 0 ? ExportPanel::tr("Export cancelled: nothing was written.")
-                                   : ExportPanel::tr("Export cancelled: %1 of %2 files were written.")
-                                         .arg(QLocale().toString(written), QLocale().toString(all)));
+        sentences << (written == 0
+                          ? ExportPanel::tr("Export cancelled: nothing was written.")
+                          : ExportPanel::tr("Export cancelled: %1 of %Ln file(s) were written.", nullptr, all)
+                                .arg(QLocale().toString(written)));
     } else if (outcome.failures.empty()) {
-        const auto tours = counted(static_cast<qsizetype>(_export.countTours()),
-                                   ExportPanel::tr("1 tour exported"), ExportPanel::tr("%1 tours exported"));
-        sentences << (all == 1 ? ExportPanel::tr("%1 as %2.").arg(tours, QDir::toNativeSeparators(first))
-                               : ExportPanel::tr("%1 to %2.").arg(tours, folderOf(first)));
+        const auto tours = static_cast<int>(_export.countTours());
+        sentences << (all == 1 ? ExportPanel::tr("%Ln tour(s) exported as %1.", "name of a file", tours)
+                                     .arg(QDir::toNativeSeparators(first))
+                               : ExportPanel::tr("%Ln tour(s) exported to %1.", "name of a folder", tours)
+                                     .arg(folderOf(first)));
     } else if (written > 0) {
-        sentences << counted(written, ExportPanel::tr("1 file was written."),
-                             ExportPanel::tr("%1 files were written."));
+        sentences << ExportPanel::tr("%Ln file(s) were written.", nullptr, written);
     }
     if (outcome.failures.empty())
         return sentences.front();
     QStringList failures;
     for (const auto& failure : outcome.failures)
         failures << ExportPanel::tr("%1: %2").arg(nameOf(failure.path), failure.reason);
-    sentences << ExportPanel::tr("%1 could not be written: %2")
-                     .arg(QLocale().toString(failures.size()), enumerated(failures, QStringLiteral("; ")));
+    sentences << ExportPanel::tr("%Ln file(s) could not be written: %1", "list of files and reasons",
+                                 static_cast<int>(failures.size()))
+                     .arg(enumerated(failures, QStringLiteral("; ")));
     return sentences.join(u' ');
 }
 

@@ -29,9 +29,9 @@ struct SeriesSegment {
 };
 
 const SeriesSegment seriesSegments[] = {
-    {0, SeriesNames::altitude, QT_TRANSLATE_NOOP("TourWindowController", "Altitude")},
-    {1, SeriesNames::speed, QT_TRANSLATE_NOOP("TourWindowController", "Speed")},
-    {2, SeriesNames::pulse, QT_TRANSLATE_NOOP("TourWindowController", "Pulse")},
+    {0, SeriesNames::altitude, QT_TRANSLATE_NOOP("ridelog::TourWindowController", "Altitude")},
+    {1, SeriesNames::speed, QT_TRANSLATE_NOOP("ridelog::TourWindowController", "Speed")},
+    {2, SeriesNames::pulse, QT_TRANSLATE_NOOP("ridelog::TourWindowController", "Pulse")},
 };
 
 const QString* seriesWithTag(int tag)

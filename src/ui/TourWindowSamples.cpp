@@ -1,7 +1,6 @@
 // The samples of a tour: the table, the mark in the chart, the values under the mouse.
 
 #include "exchange/TourSummary.h"
-#include "format/Counted.h"
 #include "model/SeriesNames.h"
 #include "ui/ElidedLabel.h"
 #include "ui/SampleTableModel.h"
@@ -202,7 +201,7 @@ void TourWindowController::copySamples()
     for (const auto& row : std::as_const(rows))
         addLine([&row](int column) { return row.siblingAtColumn(column).data().toString(); });
     QGuiApplication::clipboard()->setText(lines.join(u'\n') + u'\n');
-    showMessage(counted(rows.size(), tr("1 sample copied."), tr("%1 samples copied.")));
+    showMessage(tr("%Ln sample(s) copied.", nullptr, static_cast<int>(rows.size())));
 }
 
 /// All summary values as lines of name and value with a tab between, a blank line between groups.

@@ -88,10 +88,9 @@ TEST_F(ReceiveCommand, KeepsWhatArrivedOfATransferThatDoesNotComplete)
     ASSERT_TRUE(line.send(part));
     auto outcome = finish();
     EXPECT_EQ(outcome.status, 3);
-    EXPECT_EQ(
-        outcome.err,
-        error(QStringLiteral("the device fell silent after 40,960 of 81,930 bytes: nothing for 0.3 seconds") +
-              inKept));
+    EXPECT_EQ(outcome.err,
+              error(QStringLiteral("the device fell silent after 40,960 of 81,930 bytes: nothing for 0.3 s") +
+                    inKept));
     EXPECT_EQ(read("odoData.odo.tmp"), part);
 
     const auto garbage = QByteArray(300, '#') + dump;
@@ -166,7 +165,7 @@ TEST_F(ReceiveCommand, KeepsNothingWhereNothingArrived)
         {QStringLiteral("-o"), path("my.odo"), QStringLiteral("--timeout"), QStringLiteral("0.1")});
     const auto outcome = finish();
     EXPECT_EQ(outcome.status, 3);
-    EXPECT_EQ(outcome.err, error(QStringLiteral("nothing arrived within 0.1 seconds")));
+    EXPECT_EQ(outcome.err, error(QStringLiteral("nothing arrived within 0.1 s")));
     EXPECT_EQ(names(), QStringList());
 }
 

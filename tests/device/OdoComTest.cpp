@@ -253,7 +253,7 @@ TEST(PortProblem, HasOneMessageForOneCause)
     EXPECT_EQ(whyTransferBrokeOff(0, 81'930),
               QStringLiteral("the port was closed or unplugged before anything arrived"));
     EXPECT_EQ(whyTransferFellSilent(40'960, 81'930, 5),
-              QStringLiteral("the device fell silent after 40,960 of 81,930 bytes: nothing for 5 seconds"));
+              QStringLiteral("the device fell silent after 40,960 of 81,930 bytes: nothing for 5 s"));
 }
 
 } // namespace

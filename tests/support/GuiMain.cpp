@@ -1,3 +1,4 @@
+#include "platform/Languages.h"
 #include "platform/Log.h"
 
 #include <QApplication>
@@ -16,5 +17,6 @@ int main(int argc, char** argv)
     ridelog::setLogLevel(ridelog::LogLevel::none);
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
+    ridelog::speakLanguageOf(QLocale::c());
     return RUN_ALL_TESTS();
 }

@@ -1,3 +1,4 @@
+#include "platform/Languages.h"
 #include "platform/Log.h"
 
 #include <QCoreApplication>
@@ -9,5 +10,6 @@ int main(int argc, char** argv)
     ridelog::setLogLevel(ridelog::LogLevel::none);
     testing::InitGoogleTest(&argc, argv);
     const QCoreApplication application(argc, argv);
+    ridelog::speakLanguageOf(QLocale::c());
     return RUN_ALL_TESTS();
 }

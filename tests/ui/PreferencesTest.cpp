@@ -1,6 +1,6 @@
 #include "tests/ui/TourWindow.h"
+#include "ui/ChosenLanguage.h"
 #include "ui/ColourButton.h"
-#include "ui/Languages.h"
 #include "ui/PreferencesController.h"
 
 #include <QAccessible>
