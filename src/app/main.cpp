@@ -7,12 +7,12 @@
 #include "platform/StopSignals.h"
 #include "ui/ApplicationWindows.h"
 #include "ui/ChosenLanguage.h"
+#include "ui/Contrast.h"
 #include "ui/MainWindowController.h"
 #include "update/ApplicationInfo.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QPalette>
 #include <QSessionManager>
 
 #include <algorithm>
@@ -80,10 +80,7 @@ int main(int argc, char* argv[])
     QGuiApplication::setApplicationDisplayName(QStringLiteral("ridelog"));
     QGuiApplication::setDesktopFileName(QStringLiteral("ridelog"));
     prepareMainThread();
-    // Readable on white and on black: not every desktop's colours say how to write such texts.
-    QPalette colours;
-    colours.setColor(QPalette::PlaceholderText, Qt::darkGray);
-    QApplication::setPalette(colours);
+    keepColoursReadable();
 
     QCommandLineParser options;
     options.setApplicationDescription(

@@ -1,6 +1,7 @@
 #include "chart/BarChartView.h"
 
 #include "chart/BarDrawing.h"
+#include "chart/ChartAccessibility.h"
 #include "chart/ChartPaper.h"
 #include "chart/FocusFrame.h"
 
@@ -17,6 +18,7 @@ BarChartView::BarChartView(QWidget* parent) : QWidget(parent)
 {
     // Every repaint begins with white paper, in a dark theme as well.
     setAttribute(Qt::WA_OpaquePaintEvent);
+    presentChartsAsSuch();
     setAccessibleName(tr("Bar chart"));
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);

@@ -1,5 +1,6 @@
 #include "chart/ChartArrayView.h"
 
+#include "chart/ChartAccessibility.h"
 #include "chart/ChartDrawing.h"
 #include "chart/ChartLog.h"
 #include "chart/FocusFrame.h"
@@ -17,6 +18,7 @@ ChartArrayView::ChartArrayView(const Defaults& defaults, QWidget* parent)
 {
     // Every repaint begins with white paper, in a dark theme as well.
     setAttribute(Qt::WA_OpaquePaintEvent);
+    presentChartsAsSuch();
     setAccessibleName(tr("Chart"));
     setMouseTracking(true);
     _bindUsedPreferences();

@@ -40,6 +40,8 @@ ConnectView::ConnectView(SimulatedDevice& simulatedDevice, QWidget* parent)
     _portsPopUp->setAccessibleName(tr("Serial port"));
     _portsPopUp->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     _portsPopUp->setMinimumContentsLength(16);
+    // For names that are longer than the box.
+    connect(_portsPopUp, &QComboBox::currentTextChanged, _portsPopUp, &QWidget::setToolTip);
     _connectButton->setCheckable(true);
     _progressIndicatorBar->setRange(0, static_cast<int>(OdoCom::wholeDump));
     _progressIndicatorBar->setAccessibleName(tr("Progress of the transfer"));

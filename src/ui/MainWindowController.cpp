@@ -55,6 +55,7 @@ QLabel* addField(QHBoxLayout& layout, const QString& name)
     auto* field = new QLabel;
     field->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     field->setFocusPolicy(Qt::StrongFocus);
+    field->setAccessibleDescription(name);
     auto font = field->font();
     font.setBold(true);
     field->setFont(font);

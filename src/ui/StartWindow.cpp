@@ -2,6 +2,7 @@
 
 #include "library/AppController.h"
 #include "ui/ApplicationWindows.h"
+#include "ui/Contrast.h"
 #include "ui/FileDrop.h"
 #include "ui/MainWindowController.h"
 
@@ -34,7 +35,7 @@ StartWindow::StartWindow(ApplicationWindows& windows) : _windows(windows), _mess
         item->setData(Qt::UserRole, path);
         // Those that are gone can be chosen too: a stick may be plugged in again.
         if (!QFileInfo::exists(path))
-            item->setForeground(palette().brush(QPalette::Disabled, QPalette::Text));
+            item->setForeground(subduedTextColour(palette()));
     }
     connect(recent, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
         _windows.openDocument(item->data(Qt::UserRole).toString());

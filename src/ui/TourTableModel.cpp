@@ -1,5 +1,7 @@
 #include "ui/TourTableModel.h"
 
+#include "ui/Contrast.h"
+
 #include <QGuiApplication>
 #include <QPalette>
 
@@ -53,9 +55,8 @@ QVariant TourTableModel::data(const QModelIndex& index, int role) const
     case Qt::TextAlignmentRole:
         return QVariant(TourColumns::isNumber(index.column()) ? numberAlignment : textAlignment);
     case Qt::ForegroundRole:
-        return tourAt(index.row()).removed()
-                   ? QVariant(QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text))
-                   : QVariant();
+        return tourAt(index.row()).removed() ? QVariant(subduedTextColour(QGuiApplication::palette()))
+                                             : QVariant();
     default:
         return {};
     }

@@ -212,10 +212,11 @@ TEST_F(Export, WhatIsThereIsNotReplacedUnasked)
     // What comes while one thinks about it was not asked about.
     answer("Replace", [&] { write(qPrintable(QStringLiteral("out/") + names[1]), "new"); });
     exportAll("json", "out");
-    EXPECT_EQ(told(window()),
-              QStringLiteral("2 files were written. 3 files could not be written: %1: it is a folder; %2: it holds "
-                             "tours, which an export would replace; %3: it is there already")
-                  .arg(names[4], names[2], names[1]));
+    EXPECT_EQ(
+        told(window()),
+        QStringLiteral("2 files were written. 3 files could not be written: %1: it is a folder; %2: it holds "
+                       "tours, which an export would replace; %3: it is there already")
+            .arg(names[4], names[2], names[1]));
     EXPECT_EQ(toursIn(first).size(), 1);
     EXPECT_EQ(read(qPrintable(QStringLiteral("out/") + names[1])), "new");
 
