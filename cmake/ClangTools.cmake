@@ -58,7 +58,7 @@ if(CLANG_TIDY)
 endif()
 
 if(CLANG_FORMAT)
-  set(globs src tests bench fuzz)
+  set(globs packaging src tests bench fuzz)
   list(TRANSFORM globs REPLACE "(.+)" "${PROJECT_SOURCE_DIR}/\\1/*.h;${PROJECT_SOURCE_DIR}/\\1/*.cpp")
   file(GLOB_RECURSE formatted ${globs})
   set(stamp ${PROJECT_BINARY_DIR}/format-check.stamp)

@@ -38,7 +38,8 @@ fetch_schema() {
 }
 
 install_missing() {
-    local packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools tzdata)
+    local packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools libcmark-gfm-dev
+        libcmark-gfm-extensions-dev tzdata)
     if [[ $1 == test ]]; then
         packages+=(qt6-charts-dev libqt6opengl6-dev libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev
             qt6-translations-l10n xvfb openbox xdotool fonts-dejavu-core libxml2-utils gpsbabel python3)
@@ -72,6 +73,7 @@ configure() {
     echo "ridelog is built with
   CMake 3.25, Ninja, a compiler for C++20 (g++ 12 or clang 14)
   Qt 6.4 (Core, Gui, LinguistTools, Network, PrintSupport, Svg, Widgets) with its headers, time zone data
+  cmark-gfm 0.29 with its extensions, which makes the manual
 and tested with
   GoogleTest 1.12, Google Benchmark 1.7, Qt Charts as what benchmarks compare with
   clang 14 with its sanitizer libraries, clang-format 14, clang-tidy 14

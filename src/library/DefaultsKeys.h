@@ -65,6 +65,10 @@ inline const QString automaticCheck = QStringLiteral("automaticCheck"); ///< boo
 using UpdateKeys::checkedForUpdateOn;                                   ///< date of the last check
 using UpdateKeys::checkForUpdateAfterDays;                              ///< integer: days
 
+// Manual
+inline const QString manualZoom =
+    QStringLiteral("manualZoom"); ///< integer: points that its letters are larger than usual
+
 // Documents
 inline const QString recentDocuments =
     QStringLiteral("recentDocuments"); ///< list of texts: paths, newest first
@@ -78,6 +82,7 @@ inline const QString language =
 inline const QString mainWindowFrame = QStringLiteral("MainWindow");
 inline const QString statWindowFrame = QStringLiteral("statWindow");
 inline const QString preferencesPanelFrame = QStringLiteral("PreferencesPanel");
+inline const QString manualWindowFrame = QStringLiteral("ManualWindow");
 
 /// The frame of the window of the tour with this description.
 QString tourWindowFrame(const QString& tourDescription);

@@ -3,6 +3,8 @@
 #include "library/AppController.h"
 #include "platform/Defaults.h"
 #include "ui/MainWindowController.h"
+#include "ui/ManualHelp.h"
+#include "ui/ManualWindow.h"
 #include "ui/PreferencesController.h"
 #include "ui/Sheet.h"
 #include "ui/TourWindowController.h"
@@ -53,6 +55,7 @@ ApplicationWindows::ApplicationWindows(AppController& controller, Defaults& defa
             [this](MyDocument* document) { addWindow(*document); });
     connect(&_controller, &AppController::openFailed, this, &ApplicationWindows::showFailure);
     connect(&_controller, &AppController::recoveryFailed, this, &ApplicationWindows::tellRefused);
+    connect(new ManualRequests(this), &ManualRequests::asked, this, &ApplicationWindows::showManual);
     connect(&_controller.recovery(), &DocumentRecovery::failed, this,
             [this](const MyDocument* document, const QString& reason) {
                 if (auto* window = windowOf(*document))
@@ -142,6 +145,16 @@ void ApplicationWindows::showPreferences()
     bringToFront(*_preferences);
 }
 
+void ApplicationWindows::showManual(const QString& section)
+{
+    // An open menu would keep the keys.
+    while (auto* menu = QApplication::activePopupWidget())
+        menu->close();
+    if (!_manual)
+        _manual = std::make_unique<ManualWindow>(_defaults);
+    _manual->showSection(section);
+}
+
 // What a crash has left
 
 void ApplicationWindows::offerLeftovers()
@@ -170,6 +183,7 @@ bool ApplicationWindows::offerLeftover(const Leftover& leftover)
     const QAbstractButton* recover = sheet.addButton(tr("&Recover"), QMessageBox::AcceptRole);
     const QAbstractButton* discard = sheet.addButton(tr("&Discard"), QMessageBox::DestructiveRole);
     sheet.addButton(tr("Ask Me &Later"), QMessageBox::RejectRole);
+    setManualSection(sheet, QStringLiteral("main-window.html#after-a-crash"));
     sheet.exec();
     if (sheet.clickedButton() == recover)
         _controller.recoverDocument(leftover);

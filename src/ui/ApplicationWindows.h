@@ -18,6 +18,7 @@ namespace ridelog {
 class AppController;
 class Defaults;
 class MainWindowController;
+class ManualWindow;
 class MyDocument;
 class PreferencesController;
 struct Leftover;
@@ -58,6 +59,11 @@ public:
     void showPreferences();
     /// None before it has been asked for.
     PreferencesController* preferences() const { return _preferences.get(); }
+    /// Shows this section of the manual, or its first page, in the same window each time, and brings that to
+    /// the front.
+    void showManual(const QString& section);
+    /// None before it has been asked for.
+    ManualWindow* manual() const { return _manual.get(); }
 
     /// Looks for newer versions there and not where the build says.
     void setUpdateUrl(const QString& url) { _updateUrl = url; }
@@ -100,8 +106,9 @@ private:
     QPointer<MainWindowController> _lastInFront;
     QPointer<StartWindow> _startWindow;
     std::unique_ptr<PreferencesController>
-        _preferences;      ///< from the first time on, until the application ends
-    QStringList _failures; ///< to open the documents asked for last
+        _preferences;                      ///< from the first time on, until the application ends
+    std::unique_ptr<ManualWindow> _manual; ///< the same
+    QStringList _failures;                 ///< to open the documents asked for last
 };
 
 } // namespace ridelog

@@ -3,6 +3,7 @@
 #include "device/KSSerialPortList.h"
 #include "device/OdoCom.h"
 #include "ui/BusySpinner.h"
+#include "ui/ManualHelp.h"
 #include "ui/SimulatedDevice.h"
 
 #include <QAbstractItemView>
@@ -31,6 +32,7 @@ ConnectView::ConnectView(SimulatedDevice& simulatedDevice, QWidget* parent)
       _simulatedDevice(simulatedDevice),
       _portsPopUp(new QComboBox),
       _connectButton(new QPushButton(tr("&Connect"))),
+      _troubleButton(new QPushButton(tr("Trou&ble with the Port…"))),
       _progressIndicatorSpin(new BusySpinner),
       _progressIndicatorBar(new QProgressBar),
       _state(new QLabel)
@@ -53,6 +55,10 @@ ConnectView::ConnectView(SimulatedDevice& simulatedDevice, QWidget* parent)
                       "sending from the device's own menu. A transfer takes about 85 seconds."));
     help->setWordWrap(true);
 
+    setManualSection(*this, QStringLiteral("device.html"));
+    setManualSection(*_troubleButton, QStringLiteral("trouble.html"));
+    connect(_troubleButton, &QPushButton::clicked, this, [this] { askForManual(*_troubleButton); });
+
     auto* portLabel = new QLabel(tr("Serial &port:"));
     portLabel->setBuddy(_portsPopUp);
     auto* connecting = new QHBoxLayout;
@@ -66,6 +72,8 @@ ConnectView::ConnectView(SimulatedDevice& simulatedDevice, QWidget* parent)
     layout->addWidget(_state);
     layout->addSpacing(8);
     layout->addWidget(help);
+    layout->addSpacing(8);
+    layout->addWidget(_troubleButton);
     layout->addStretch();
 
     connect(&_simulatedDevice, &SimulatedDevice::changed, this, &ConnectView::refreshPorts);

@@ -25,6 +25,7 @@ public:
 
     QComboBox& portsPopUp() { return *_portsPopUp; }
     QPushButton& connectButton() { return *_connectButton; } ///< checked while a session listens
+    QPushButton& troubleButton() { return *_troubleButton; } ///< leads to the manual
     BusySpinner& progressIndicatorSpin() { return *_progressIndicatorSpin; }
     QProgressBar& progressIndicatorBar() { return *_progressIndicatorBar; }
 
@@ -50,6 +51,7 @@ private:
     SimulatedDevice& _simulatedDevice;
     QComboBox* _portsPopUp;
     QPushButton* _connectButton;
+    QPushButton* _troubleButton;
     BusySpinner* _progressIndicatorSpin;
     QProgressBar* _progressIndicatorBar;
     QLabel* _state;

@@ -4,6 +4,7 @@
 #include "platform/Defaults.h"
 #include "ui/ElidedLabel.h"
 #include "ui/FolderField.h"
+#include "ui/ManualHelp.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -50,6 +51,7 @@ ExportPanel::ExportPanel(QWidget* over, Defaults& defaults, const ExportFormats&
 {
     setWindowTitle(tr("Export"));
     setWindowModality(Qt::WindowModal);
+    setManualSection(*this, QStringLiteral("export.html"));
     // In this order Tab goes from one to the next.
     auto& form = *new QFormLayout(this);
     form.setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
@@ -123,6 +125,8 @@ void ExportPanel::addButtons(QFormLayout& form)
     _exportButton = buttons->addButton(tr("&Export"), QDialogButtonBox::AcceptRole);
     _exportButton->setDefault(true);
     buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole);
+    const auto* helpButton = buttons->addButton(tr("Hel&p"), QDialogButtonBox::HelpRole);
+    connect(helpButton, &QPushButton::clicked, this, [this] { askForManual(*this); });
     form.addRow(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &ExportPanel::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &ExportPanel::reject);

@@ -6,6 +6,7 @@
 #include "ui/ApplicationWindows.h"
 #include "ui/ConnectView.h"
 #include "ui/MainWindowController.h"
+#include "ui/MenuEntries.h"
 #include "ui/NumberedEntry.h"
 #include "ui/SimulatedDevice.h"
 #include "ui/TourTableView.h"
@@ -192,6 +193,8 @@ void MainWindowController::makeWindowMenu()
 void MainWindowController::makeHelpMenu()
 {
     auto& menu = *menuBar()->addMenu(tr("&Help"));
+    addManual(menu, *this);
+    menu.addSeparator();
     addAction(menu, tr("&Check for Updates…"), Qt::CTRL | Qt::SHIFT | Qt::Key_U,
               &MainWindowController::checkForUpdates);
     addAction(menu, tr("Send &Feedback…"), Qt::CTRL | Qt::SHIFT | Qt::Key_F,

@@ -11,6 +11,7 @@
 #include "ui/ElidedLabel.h"
 #include "ui/EmptyDocumentView.h"
 #include "ui/FileDrop.h"
+#include "ui/ManualHelp.h"
 #include "ui/MessageLine.h"
 #include "ui/StatWindowController.h"
 #include "ui/TourTableModel.h"
@@ -86,6 +87,7 @@ MainWindowController::MainWindowController(ApplicationWindows& windows, MyDocume
 {
     qCDebug(lcUi, "-- awakeFromNib --");
     new FileDrop(_windows, *this);
+    setManualSection(*this, QStringLiteral("main-window.html"));
     setAttribute(Qt::WA_DeleteOnClose);
     _tourController.setSortDescriptors(
         sortDescriptorsFromText(_defaults.textForKey(DefaultsKeys::sortDesc).value_or(QString())));
@@ -115,6 +117,7 @@ MainWindowController::MainWindowController(ApplicationWindows& windows, MyDocume
     setTabOrder(_distanceField, _speedField);
     setTabOrder(_speedField, &_connectView->portsPopUp());
     setTabOrder(&_connectView->portsPopUp(), &_connectView->connectButton());
+    setTabOrder(&_connectView->connectButton(), &_connectView->troubleButton());
     _tableView->setFocus();
 
     restoreWindow();

@@ -1,6 +1,7 @@
 #include "ui/MenuEntries.h"
 
 #include "ui/ApplicationWindows.h"
+#include "ui/ManualHelp.h"
 #include "ui/SegmentedControl.h"
 
 #include <QCoreApplication>
@@ -52,6 +53,15 @@ void addPreferences(QMenu& menu, ApplicationWindows& windows)
         addEntry(menu, QCoreApplication::translate("MenuEntries", "&Preferences…"), Qt::CTRL | Qt::Key_Comma);
     action->setMenuRole(QAction::PreferencesRole);
     QObject::connect(action, &QAction::triggered, &windows, &ApplicationWindows::showPreferences);
+}
+
+void addManual(QMenu& menu, QWidget& window)
+{
+    auto* action = addEntry(menu, QCoreApplication::translate("MenuEntries", "&Manual"), Qt::Key_F1);
+    QObject::connect(action, &QAction::triggered, &window, [&window] {
+        auto* place = window.focusWidget();
+        askForManual(place ? *place : window);
+    });
 }
 
 } // namespace ridelog

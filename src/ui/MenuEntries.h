@@ -23,5 +23,7 @@ void addSegments(QMenu& menu, const SegmentedControl& control, int first);
 /// Close for this window, and Quit.
 void addCloseAndQuit(QMenu& menu, QWidget& window, ApplicationWindows& windows);
 void addPreferences(QMenu& menu, ApplicationWindows& windows);
+/// Shows the part of the manual that belongs to where the keys of this window go.
+void addManual(QMenu& menu, QWidget& window);
 
 } // namespace ridelog

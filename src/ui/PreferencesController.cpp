@@ -2,6 +2,7 @@
 
 #include "library/DefaultsKeys.h"
 #include "platform/Defaults.h"
+#include "ui/ManualHelp.h"
 #include "ui/MessageLine.h"
 #include "ui/PreferencesPage.h"
 #include "ui/WindowFrame.h"
@@ -25,10 +26,10 @@ PreferencesController::PreferencesController(Defaults& defaults)
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(_pages, 1);
-    addPage(makeGeneralPage(), tr("&General"));
-    addPage(makeChartPage(), tr("&Chart"));
-    addPage(makePulsePage(), tr("&Pulse"));
-    addPage(makeDevicePage(), tr("De&vice"));
+    addPage(makeGeneralPage(), tr("&General"), QStringLiteral("preferences.html#general"));
+    addPage(makeChartPage(), tr("&Chart"), QStringLiteral("preferences.html#chart"));
+    addPage(makePulsePage(), tr("&Pulse"), QStringLiteral("preferences.html#pulse"));
+    addPage(makeDevicePage(), tr("De&vice"), QStringLiteral("preferences.html#device"));
     _message->setTextFormat(Qt::PlainText);
     _message->setWordWrap(true);
     // The panel keeps its size when there is something to say.
@@ -37,12 +38,20 @@ PreferencesController::PreferencesController(Defaults& defaults)
     // Return in a field is the field's.
     closeButton->setAutoDefault(false);
     connect(closeButton, &QPushButton::clicked, this, &QDialog::reject);
+    auto* helpButton = new QPushButton(tr("&Help"));
+    helpButton->setAutoDefault(false);
+    connect(helpButton, &QPushButton::clicked, this, [this] { askForManual(*_pages); });
     auto* foot = new QHBoxLayout;
     foot->addWidget(_message, 1);
+    foot->addWidget(helpButton);
     foot->addWidget(closeButton);
     layout->addLayout(foot);
     // What was refused was on the page before.
     connect(_pages, &QTabWidget::currentChanged, this, [this] { showMessage({}); });
+    // Also where the keys go to the tabs, or to a button below.
+    const auto tellOfPage = [this] { setManualSection(*this, manualSection(*_pages->currentWidget())); };
+    tellOfPage();
+    connect(_pages, &QTabWidget::currentChanged, this, tellOfPage);
     connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QDialog::reject);
 
     connect(&_defaults, &Defaults::failingChanged, this, [this] { showMessage({}); });
@@ -58,8 +67,9 @@ PreferencesController::~PreferencesController()
     _defaults.synchronize();
 }
 
-void PreferencesController::addPage(PreferencesPage* page, const QString& name)
+void PreferencesController::addPage(PreferencesPage* page, const QString& name, const QString& section)
 {
+    setManualSection(*page, section);
     connect(page, &PreferencesPage::reset, this, [this] { showMessage({}); });
     _pages->addTab(page, name);
 }

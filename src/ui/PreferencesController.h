@@ -30,7 +30,8 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    void addPage(PreferencesPage* page, const QString& name);
+    /// `section` of the manual tells of it.
+    void addPage(PreferencesPage* page, const QString& name, const QString& section);
     void showMessage(const QString& message);
     PreferencesPage* makeGeneralPage();
     PreferencesPage* makeChartPage();

@@ -1,6 +1,7 @@
 #include "ui/SaveChartPanel.h"
 
 #include "chart/ChartPicture.h"
+#include "ui/ManualHelp.h"
 
 #include <QCheckBox>
 #include <QFileInfo>
@@ -47,6 +48,7 @@ SaveChartPanel::SaveChartPanel(QWidget* over, const QString& name, QSize size)
       _chartSaveHeight(sideField(tr("Height in pixels"), size.height())),
       _setAsDefaultBtn(new QCheckBox(tr("&Use as default size")))
 {
+    setManualSection(*this, QStringLiteral("tour-window.html#pictures-and-paper"));
     // The desktop's own panel has no room for the size.
     setOption(DontUseNativeDialog);
     setAcceptMode(AcceptSave);

@@ -5,6 +5,7 @@
 #include "ui/Contrast.h"
 #include "ui/FileDrop.h"
 #include "ui/MainWindowController.h"
+#include "ui/ManualHelp.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -21,6 +22,7 @@ StartWindow::StartWindow(ApplicationWindows& windows) : _windows(windows), _mess
 {
     setWindowTitle(tr("ridelog"));
     new FileDrop(_windows, *this);
+    setManualSection(*this, QStringLiteral("main-window.html#documents-and-files"));
     resize(560, 380);
     _message->setWordWrap(true);
     _message->setTextFormat(Qt::PlainText);

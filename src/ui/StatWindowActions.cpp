@@ -28,6 +28,7 @@ void StatWindowController::makeActions()
     makeViewMenu();
     makeGoMenu();
     menuBar()->addMenu(new WindowMenu(_windows, *this));
+    addManual(*menuBar()->addMenu(tr("&Help")), *this);
 }
 
 void StatWindowController::makeFileMenu()

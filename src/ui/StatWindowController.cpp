@@ -8,6 +8,7 @@
 #include "platform/Defaults.h"
 #include "ui/ElidedLabel.h"
 #include "ui/FileDrop.h"
+#include "ui/ManualHelp.h"
 #include "ui/MessageLine.h"
 #include "ui/PeriodStepper.h"
 #include "ui/SegmentedControl.h"
@@ -52,6 +53,7 @@ StatWindowController::StatWindowController(ApplicationWindows& windows, MyDocume
 {
     qCDebug(lcUi, "[StatWindowController init]");
     new FileDrop(_windows, *this);
+    setManualSection(*this, QStringLiteral("statistics.html"));
     _refresh.setSingleShot(true);
     _refresh.callOnTimeout(this, &StatWindowController::refresh);
     setOdoStat(std::make_unique<OdoStat>(WeekRule::ofLocale(QLocale())));

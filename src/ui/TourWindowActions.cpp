@@ -29,6 +29,7 @@ void TourWindowController::makeActions()
     makeFormatMenu();
     makeViewMenu();
     menuBar()->addMenu(new WindowMenu(_windows, *this));
+    addManual(*menuBar()->addMenu(tr("&Help")), *this);
 }
 
 void TourWindowController::makeFileMenu()

@@ -6,6 +6,7 @@
 #include "ui/AltitudeRange.h"
 #include "ui/DescriptionEdit.h"
 #include "ui/FileDrop.h"
+#include "ui/ManualHelp.h"
 #include "ui/MessageLine.h"
 #include "ui/SampleTableModel.h"
 #include "ui/ToggleButton.h"
@@ -49,6 +50,7 @@ TourWindowController::TourWindowController(ApplicationWindows& windows, MyDocume
         qCWarning(lcUi, "COULD NOT SET UNDOMANAGER");
     setAttribute(Qt::WA_DeleteOnClose);
     new FileDrop(_windows, *this);
+    setManualSection(*this, QStringLiteral("tour-window.html"));
 
     auto* upper = new QWidget;
     auto* layout = new QVBoxLayout(upper);
@@ -199,6 +201,7 @@ void TourWindowController::makeDataDrawer()
     _dataTable = new QTableView;
     _dataTable->setAccessibleName(tr("Samples"));
     _dataTable->setModel(_samples);
+    setManualSection(*_dataTable, QStringLiteral("values.html#a-sample"));
     _dataTable->setSelectionBehavior(QAbstractItemView::SelectRows);
     _dataTable->setAlternatingRowColors(true);
     _dataTable->setShowGrid(false);
@@ -228,6 +231,7 @@ void TourWindowController::makeDataDrawer()
 void TourWindowController::makeSummaryDrawer()
 {
     _summary = new TourSummaryView(_odoTour, _defaults);
+    setManualSection(*_summary, QStringLiteral("values.html#a-tour"));
     _summaryDrawer = makeDrawer(tr("Summary"), QStringLiteral("summaryDrawer"), *_summary,
                                 Qt::RightDockWidgetArea, summaryContentSize);
     connect(_summaryButton, &QToolButton::clicked, this, [this] {

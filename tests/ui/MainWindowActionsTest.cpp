@@ -36,6 +36,7 @@ TEST_F(MainWindowActions, AreThereByKey)
                                       &window().speedField(),
                                       &window().connectView().portsPopUp(),
                                       &window().connectView().connectButton(),
+                                      &window().connectView().troubleButton(),
                                       &window().searchField(),
                                       &table};
     for (auto* next : order) {
