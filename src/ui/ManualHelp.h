@@ -8,7 +8,7 @@ QT_FORWARD_DECLARE_CLASS(QWidget)
 namespace ridelog {
 
 /// The part of the manual that belongs to this widget and to what lies in it and over it:
-/// "device.html#permission".
+/// "preferences.html#chart".
 void setManualSection(QWidget& widget, const QString& section);
 /// Empty where no part of the manual belongs to it.
 QString manualSection(const QWidget& widget);

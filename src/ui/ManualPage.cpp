@@ -99,14 +99,15 @@ void ManualPage::takeColours()
             .name();
     };
     document()->setDefaultStyleSheet(
-        QStringLiteral("a { color: %1 } "
-                       "p, li { line-height: 130% } li { margin-bottom: 2px } "
-                       "h2 { margin-top: 24px } h3 { margin-top: 16px } "
-                       "table { border-collapse: collapse; margin-top: 8px; margin-bottom: 8px } "
-                       "td, th { border: 1px solid %2; padding: 4px 8px } th { text-align: left } "
-                       "code, pre { font-family: monospace; background-color: %3 } "
-                       "pre { margin-top: 8px; margin-bottom: 8px } "
-                       ".steps { margin-top: 32px } ")
+        QStringLiteral(
+            "a { color: %1 } "
+            "p, li { -qt-line-height-type: line-distance; line-height: 4px } li { margin-bottom: 2px } "
+            "h2 { margin-top: 24px } h3 { margin-top: 16px } "
+            "table { border-collapse: collapse; margin-top: 8px; margin-bottom: 8px } "
+            "td, th { border: 1px solid %2; padding: 4px 8px } th { text-align: left } "
+            "code, pre { font-family: monospace; background-color: %3 } "
+            "pre { margin-top: 8px; margin-bottom: 8px } "
+            ".steps { margin-top: 32px } ")
             .arg(readableOn(base, palette().color(QPalette::Link)).name(), between(30), between(8)));
 }
 
