@@ -3,6 +3,7 @@
 #include "tests/support/TemporaryFolder.h"
 
 #include <QDirIterator>
+#include <QFileInfo>
 #include <QMap>
 #include <QProcess>
 #include <QRegularExpression>
@@ -149,6 +150,49 @@ TEST(Manual, HasWhatItsPagesAndTheWindowsLeadTo)
         }
     }
     EXPECT_GT(sections, 10);
+}
+
+/// What stands between two lines of ``` in the file.
+QStringList blocksOf(const QString& page)
+{
+    QFile file(QStringLiteral(RIDELOG_SOURCE "/docs/manual/") + page);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    QStringList blocks;
+    const auto parts = QString::fromUtf8(file.readAll()).split(QStringLiteral("```\n"));
+    for (qsizetype part = 1; part < parts.size(); part += 2)
+        blocks << parts[part];
+    return blocks;
+}
+
+TEST(Manual, ExamplesPrintWhatItSays)
+{
+    const TemporaryFolder folder;
+    QProcess shell;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("HOME"), folder.path());
+    environment.insert(QStringLiteral("TZ"), QStringLiteral("UTC"));
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    environment.insert(QStringLiteral("PATH"),
+                       QFileInfo(QStringLiteral(RIDELOG_CLI)).path() + u':' + qEnvironmentVariable("PATH"));
+    shell.setProcessEnvironment(environment);
+    shell.setWorkingDirectory(folder.path());
+    shell.setProcessChannelMode(QProcess::MergedChannels);
+    int examples = 0;
+    for (const auto& block : blocksOf(QStringLiteral("command-line.md"))) {
+        QString printed;
+        for (const auto& line : block.split(u'\n')) {
+            if (!line.startsWith(QStringLiteral("$ ")))
+                continue;
+            shell.start(QStringLiteral("bash"), {QStringLiteral("-c"), line.mid(2)});
+            ASSERT_TRUE(shell.waitForFinished());
+            printed += line + u'\n' + QString::fromUtf8(shell.readAll()).remove(u'\r');
+            ++examples;
+        }
+        if (!printed.isEmpty()) {
+            EXPECT_EQ(printed.toStdString(), block.toStdString());
+        }
+    }
+    EXPECT_GT(examples, 20);
 }
 
 } // namespace

@@ -7,7 +7,9 @@
 #include "ui/PreferencesController.h"
 #include "ui/StatWindowController.h"
 
+#include <QFile>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTextBlock>
@@ -211,6 +213,52 @@ TEST_F(Manual, LettersAndFrameAreKept)
     for (int time = 0; time < 50; ++time)
         press(manual(), Qt::CTRL | Qt::Key_Minus);
     EXPECT_GT(page().font().pointSizeF(), 0);
+}
+
+/// A row for each action with keys: "| File > Open… | Ctrl+O |".
+QStringList rowsOf(const QList<QAction*>& actions, const QString& path = {})
+{
+    static const QRegularExpression whatIsUndone(QStringLiteral("^(Undo|Redo) .*"));
+    QStringList rows;
+    for (const auto* one : actions) {
+        const auto name =
+            path + QString(one->text()).remove(u'&').replace(whatIsUndone, QStringLiteral("\\1"));
+        if (one->menu()) {
+            Q_EMIT one->menu()->aboutToShow();
+            rows += rowsOf(one->menu()->actions(), name + QStringLiteral(" > "));
+        } else if (!one->shortcut().isEmpty()) {
+            // The one that differs from desktop to desktop.
+            const bool isClose = one->shortcut() == QKeySequence(QKeySequence::Close);
+            rows << QStringLiteral("| %1 | %2 |")
+                        .arg(name, isClose ? QStringLiteral("Ctrl+W")
+                                           : one->shortcut().toString(QKeySequence::NativeText));
+        }
+    }
+    return rows;
+}
+
+TEST_F(Manual, ItsTableHasTheKeysOfAllActions)
+{
+    QFile file(QStringLiteral(RIDELOG_SOURCE "/docs/manual/keys.md"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const auto sections = QString::fromUtf8(file.readAll()).split(QStringLiteral("\n## "));
+    const auto expectRows = [&sections](const char* title, const QMainWindow& window) {
+        QStringList found;
+        for (const auto& section : sections) {
+            if (section.startsWith(QString::fromLatin1(title) + u'\n'))
+                found = section.split(u'\n').filter(QRegularExpression(QStringLiteral("^\\| \\w+ > ")));
+        }
+        EXPECT_EQ(found.join(u'\n').toStdString(),
+                  rowsOf(window.menuBar()->actions()).join(u'\n').toStdString())
+            << title;
+    };
+    start({dump()});
+    open();
+    expectRows("The manual", manual());
+    Application::trigger("Statistics");
+    expectRows("Statistics", *window().statWindow());
+    expectRows("The window of a tour", openSelected());
+    expectRows("The main window", window());
 }
 
 } // namespace
