@@ -1,5 +1,7 @@
 #include "ui/EmptyDocumentView.h"
 
+#include "ui/Icons.h"
+
 #include <QFontInfo>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -21,8 +23,8 @@ EmptyDocumentView::EmptyDocumentView(QWidget* parent) : QWidget(parent)
     text->setWordWrap(true);
     text->setFixedWidth(420);
 
-    auto* connectDevice = new QPushButton(tr("Connect De&vice"));
-    auto* importDump = new QPushButton(tr("&Import Dump…"));
+    auto* connectDevice = new QPushButton(actionIcon(QStringLiteral("device")), tr("Connect De&vice"));
+    auto* importDump = new QPushButton(actionIcon(QStringLiteral("import")), tr("&Import Dump…"));
     connect(connectDevice, &QPushButton::clicked, this, &EmptyDocumentView::connectDeviceRequested);
     connect(importDump, &QPushButton::clicked, this, &EmptyDocumentView::importDumpRequested);
     // Its height follows from its own width, not from that of the window.

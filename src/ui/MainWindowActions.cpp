@@ -5,6 +5,7 @@
 #include "platform/Defaults.h"
 #include "ui/ApplicationWindows.h"
 #include "ui/ConnectView.h"
+#include "ui/Icons.h"
 #include "ui/MainWindowController.h"
 #include "ui/MenuEntries.h"
 #include "ui/NumberedEntry.h"
@@ -210,10 +211,19 @@ void MainWindowController::makeToolBar()
     auto& bar = *addToolBar(tr("Tool Bar"));
     bar.setObjectName(QStringLiteral("toolBar"));
     bar.setMovable(false);
-    bar.setToolButtonStyle(Qt::ToolButtonTextOnly);
+    bar.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    bar.setIconSize(QSize(16, 16));
     bar.setContextMenuPolicy(Qt::PreventContextMenu);
     _importAction->setIconText(tr("Import"));
-    bar.addActions({_transferButton, _importAction, _openTourAction, _statisticsAction});
+    const std::pair<QAction*, QString> symbols[]{{_transferButton, QStringLiteral("device")},
+                                                 {_importAction, QStringLiteral("import")},
+                                                 {_openTourAction, QStringLiteral("tour")},
+                                                 {_statisticsAction, QStringLiteral("statistics")}};
+    for (const auto& [action, symbol] : symbols) {
+        action->setIcon(actionIcon(symbol));
+        action->setIconVisibleInMenu(false);
+        bar.addAction(action);
+    }
     auto* space = new QWidget;
     space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar.addWidget(space);

@@ -8,6 +8,7 @@
 #include "platform/Defaults.h"
 #include "ui/ElidedLabel.h"
 #include "ui/FileDrop.h"
+#include "ui/Icons.h"
 #include "ui/ManualHelp.h"
 #include "ui/MessageLine.h"
 #include "ui/PeriodStepper.h"
@@ -156,6 +157,9 @@ QWidget* StatWindowController::makeTabs()
     });
     _saveChartButton = new QToolButton;
     _saveChartButton->setText(tr("Save Chart…"));
+    _saveChartButton->setIcon(actionIcon(QStringLiteral("save-chart")));
+    _saveChartButton->setIconSize(QSize(16, 16));
+    _saveChartButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     _saveChartButton->setFocusPolicy(Qt::StrongFocus);
 
     auto* row = new QWidget;

@@ -6,6 +6,7 @@
 #include "ui/AltitudeRange.h"
 #include "ui/DescriptionEdit.h"
 #include "ui/FileDrop.h"
+#include "ui/Icons.h"
 #include "ui/ManualHelp.h"
 #include "ui/MessageLine.h"
 #include "ui/SampleTableModel.h"
@@ -135,6 +136,9 @@ QWidget* TourWindowController::makeControls()
     _summaryButton = new ToggleButton(tr("Summary"));
     _saveChartButton = new QToolButton;
     _saveChartButton->setText(tr("Save Chart…"));
+    _saveChartButton->setIcon(actionIcon(QStringLiteral("save-chart")));
+    _saveChartButton->setIconSize(QSize(16, 16));
+    _saveChartButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     _saveChartButton->setFocusPolicy(Qt::StrongFocus);
     for (auto* button : {_dataButton, _summaryButton, _saveChartButton})
         layout->addWidget(button);
