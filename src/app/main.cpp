@@ -8,12 +8,14 @@
 #include "ui/ApplicationWindows.h"
 #include "ui/ChosenLanguage.h"
 #include "ui/Contrast.h"
+#include "ui/Icons.h"
 #include "ui/MainWindowController.h"
 #include "update/ApplicationInfo.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QSessionManager>
+#include <QUrl>
 
 #include <algorithm>
 #include <csignal>
@@ -37,6 +39,17 @@ std::optional<LogLevel> levelNamed(const QString& name)
     if (name == u"trace")
         return LogLevel::trace;
     return std::nullopt;
+}
+
+/// Some file managers give addresses in place of paths.
+QStringList pathsOf(const QStringList& words)
+{
+    QStringList paths;
+    for (const auto& word : words) {
+        const QUrl url(word);
+        paths << (word.startsWith(u"file://") && url.isLocalFile() ? url.toLocalFile() : word);
+    }
+    return paths;
 }
 
 /// What a second start is asked for and does not hand over.
@@ -79,6 +92,7 @@ int main(int argc, char* argv[])
     speakLanguageOf(QLocale());
     QGuiApplication::setApplicationDisplayName(QStringLiteral("ridelog"));
     QGuiApplication::setDesktopFileName(QStringLiteral("ridelog"));
+    QGuiApplication::setWindowIcon(applicationIcon());
     prepareMainThread();
     keepColoursReadable();
 
@@ -107,7 +121,7 @@ int main(int argc, char* argv[])
     }
     setLogLevel(*level);
 
-    const StartRequest request{.paths = options.positionalArguments(),
+    const StartRequest request{.paths = pathsOf(options.positionalArguments()),
                                .simulatedDevice = options.isSet(simulatedDeviceName)};
     // It goes last: the next start finds everything stored.
     SingleInstance instance(Defaults::userPath());

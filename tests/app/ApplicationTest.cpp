@@ -10,6 +10,7 @@
 #include <QDirIterator>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QUrl>
 
 #include <algorithm>
 #include <csignal>
@@ -104,6 +105,19 @@ TEST_F(ApplicationTest, ASecondStartHandsOverWhatItIsAskedFor)
     EXPECT_TRUE(std::ranges::any_of(files, [](const auto& file) {
         return file.symLinkTarget().endsWith(QStringLiteral("/ptmx"));
     })) << "no device is plugged in";
+    first->kill();
+    EXPECT_TRUE(first->waitForFinished());
+}
+
+TEST_F(ApplicationTest, TakesAddressesOfFiles)
+{
+    const auto address = QUrl::fromLocalFile(dump("100 % and more.odo", 1)).toEncoded();
+    ASSERT_TRUE(address.contains("%20") && address.contains("%25"));
+    const auto first = start({QString::fromLatin1(address)});
+    EXPECT_TRUE(first->imports(1)) << first->log.constData();
+    const auto second = start({QUrl::fromLocalFile(dump("b c.odo", 2)).toString()});
+    ASSERT_TRUE(second->waitForFinished());
+    EXPECT_TRUE(first->imports(2)) << first->log.constData();
     first->kill();
     EXPECT_TRUE(first->waitForFinished());
 }
