@@ -5,119 +5,119 @@
     <name>AppController</name>
     <message>
         <source>changes that are not saved are kept in this folder, and nothing else</source>
-        <translation type="unfinished"></translation>
+        <translation>in diesem Ordner werden nur nicht gespeicherte Änderungen aufbewahrt, sonst nichts</translation>
     </message>
 </context>
 <context>
     <name>ChartPicture</name>
     <message>
         <source>there is not enough memory for a picture of this size</source>
-        <translation type="unfinished"></translation>
+        <translation>für ein Bild dieser Größe reicht der Speicher nicht</translation>
     </message>
     <message>
         <source>the picture cannot be encoded</source>
-        <translation type="unfinished"></translation>
+        <translation>das Bild lässt sich nicht kodieren</translation>
     </message>
     <message>
         <source>a picture is at least one unit wide and high</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Bild ist mindestens eine Einheit breit und hoch</translation>
     </message>
     <message>
         <source>pictures end with .%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder enden auf .%1</translation>
     </message>
 </context>
 <context>
     <name>DocumentFile</name>
     <message>
         <source>another program has it open</source>
-        <translation type="unfinished"></translation>
+        <translation>ein anderes Programm hat es geöffnet</translation>
     </message>
     <message>
         <source>%1 has it open (process %2 on %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat es geöffnet (Prozess %2 auf %3)</translation>
     </message>
     <message>
         <source>it is too large: %1 bytes, at most %2 are read</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist zu groß: %1 Bytes, höchstens %2 werden gelesen</translation>
     </message>
     <message>
         <source>no backup can be kept: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>es lässt sich keine Sicherungskopie anlegen: %1</translation>
     </message>
     <message>
         <source>another program has changed it meanwhile</source>
-        <translation type="unfinished"></translation>
+        <translation>ein anderes Programm hat es inzwischen geändert</translation>
     </message>
 </context>
 <context>
     <name>DocumentRecovery</name>
     <message>
         <source>its file is gone</source>
-        <translation type="unfinished"></translation>
+        <translation>wurde seine Datei entfernt</translation>
     </message>
     <message>
         <source>its file has been changed since</source>
-        <translation type="unfinished"></translation>
+        <translation>wurde seine Datei geändert</translation>
     </message>
     <message>
         <source>another program has taken it meanwhile</source>
-        <translation type="unfinished"></translation>
+        <translation>ein anderes Programm hat es inzwischen übernommen</translation>
     </message>
     <message>
         <source>the document is open and has changes that are not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>das Dokument ist geöffnet und hat nicht gespeicherte Änderungen</translation>
     </message>
     <message>
         <source>%1: folders cannot be locked there</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Ordner lassen sich dort nicht sperren</translation>
     </message>
     <message>
         <source>%1 is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist beschädigt</translation>
     </message>
     <message>
         <source>%1 cannot be removed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lässt sich nicht entfernen</translation>
     </message>
 </context>
 <context>
     <name>ExportFormat</name>
     <message>
         <source>Activity for devices and services (FIT)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktivität für Geräte und Dienste (FIT)</translation>
     </message>
     <message>
         <source>FIT knows no dates before %1, and the tour starts at %2</source>
-        <translation type="unfinished"></translation>
+        <translation>FIT kennt keine Zeiten vor %1, und die Tour beginnt am %2</translation>
     </message>
     <message>
         <source>FIT knows no dates after %1, and the tour ends at %2</source>
-        <translation type="unfinished"></translation>
+        <translation>FIT kennt keine Zeiten nach %1, und die Tour endet am %2</translation>
     </message>
     <message>
         <source>Report for the browser (HTML)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht für den Browser (HTML)</translation>
     </message>
     <message>
         <source>All values, for programs (JSON)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Werte, für Programme (JSON)</translation>
     </message>
     <message>
         <source>All samples as a table (CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Messpunkte als Tabelle (CSV)</translation>
     </message>
     <message>
         <source>A table of the tours, a line for each (CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle der Touren, je eine Zeile (CSV)</translation>
     </message>
     <message>
         <source>Training Center (TCX)</source>
-        <translation type="unfinished"></translation>
+        <translation>Training Center (TCX)</translation>
     </message>
     <message>
         <source>it can tell of the years 1 to 9999 only, and a tour has the date %1</source>
-        <translation type="unfinished"></translation>
+        <translation>dieses Format kennt nur die Jahre 1 bis 9999, und eine Tour ist vom %1</translation>
     </message>
 </context>
 <context>
@@ -125,135 +125,139 @@
     <message>
         <source>en</source>
         <comment>code of the language that all this is translated to</comment>
-        <translation type="unfinished"></translation>
+        <translation>de</translation>
     </message>
 </context>
 <context>
     <name>MenuEntries</name>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;chließen</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einstellungen…</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Handbuch</translation>
     </message>
 </context>
 <context>
     <name>MyDocument</name>
     <message>
         <source>&quot;%1&quot; is no list</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Liste</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Verzeichnis</translation>
     </message>
     <message>
         <source>an archive, but not of a tour library</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Archiv, aber nicht das einer Tourensammlung</translation>
     </message>
     <message>
         <source>not a tour library: &quot;%1&quot; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Tourensammlung: „%1“ fehlt</translation>
     </message>
     <message>
         <source>not a readable document: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>kein lesbares Dokument: %1</translation>
     </message>
     <message>
         <source>the document has no file yet</source>
-        <translation type="unfinished"></translation>
+        <translation>das Dokument hat noch keine Datei</translation>
     </message>
     <message>
         <source>it was opened for reading only</source>
-        <translation type="unfinished"></translation>
+        <translation>es wurde nur zum Lesen geöffnet</translation>
     </message>
 </context>
 <context>
     <name>OdoData</name>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist ein Ordner</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist keine gewöhnliche Datei</translation>
     </message>
     <message>
         <source>not a raw dump: %1 bytes, a dump has no more than %2</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Rohdaten: %1 Bytes, Rohdaten haben höchstens %2</translation>
     </message>
     <message>
         <source>not a raw dump: %1 bytes, at least %2 are needed</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Rohdaten: %1 Bytes, mindestens %2 sind nötig</translation>
     </message>
     <message>
         <source>not a raw dump: it does not begin with &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Rohdaten: der Anfang ist nicht „%1“</translation>
     </message>
     <message>
         <source>not a raw dump: no record and no hexadecimal digits at byte %1</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Rohdaten: kein Datensatz und keine Hexadezimalziffern bei Byte %1</translation>
     </message>
 </context>
 <context>
     <name>OdoTour</name>
     <message>
         <source>date changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum ändern</translation>
     </message>
     <message>
         <source>change title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel ändern</translation>
     </message>
     <message>
         <source>change description</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung ändern</translation>
     </message>
     <message>
         <source>tour removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tour entfernen</translation>
     </message>
     <message>
         <source>a start value of a tour is no whole number of 32 bits</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Anfangswert einer Tour ist keine ganze Zahl mit 32 Bit</translation>
     </message>
     <message>
         <source>a tour is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Tour fehlt</translation>
     </message>
     <message>
         <source>a tour is stored in version %1, which this program does not know</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Tour ist in Version %1 gespeichert, die dieses Programm nicht kennt</translation>
     </message>
     <message>
         <source>the recording of a tour is missing or damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>die Aufzeichnung einer Tour fehlt oder ist beschädigt</translation>
     </message>
     <message>
         <source>the title of a tour is missing or damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>der Titel einer Tour fehlt oder ist beschädigt</translation>
     </message>
     <message>
         <source>the description of a tour is missing or damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>die Beschreibung einer Tour fehlt oder ist beschädigt</translation>
     </message>
     <message>
         <source>the removed mark of a tour is missing or damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>der Vermerk „entfernt“ einer Tour fehlt oder ist beschädigt</translation>
     </message>
     <message>
         <source>the start of a tour is missing or damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>der Beginn einer Tour fehlt oder ist beschädigt</translation>
     </message>
     <message>
         <source>the byte order of a tour is missing or damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>die Bytereihenfolge einer Tour fehlt oder ist beschädigt</translation>
     </message>
 </context>
 <context>
@@ -261,77 +265,77 @@
     <message>
         <source>%1 %2</source>
         <comment>month and year</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Week %1, %2</source>
         <comment>number and year</comment>
-        <translation type="unfinished"></translation>
+        <translation>Woche %1, %2</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle</translation>
     </message>
 </context>
 <context>
     <name>PeriodReport</name>
     <message>
         <source>Tours</source>
-        <translation type="unfinished"></translation>
+        <translation>Touren</translation>
     </message>
     <message>
         <source>Removed tours are not counted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernte Touren sind nicht mitgezählt.</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginn</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>Elevation gain (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhenmeter (%1)</translation>
     </message>
     <message>
         <source>Average speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchschnittstempo</translation>
     </message>
     <message>
         <source>Highest speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchsttempo</translation>
     </message>
     <message>
         <source>Average pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchschnittspuls</translation>
     </message>
     <message>
         <source>(removed)</source>
-        <translation type="unfinished"></translation>
+        <translation>(entfernt)</translation>
     </message>
     <message>
         <source>Back to the list of tours</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück zur Liste der Touren</translation>
     </message>
     <message numerus="yes">
         <source>%Ln tour(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Tour</numerusform>
+            <numerusform>%Ln Touren</numerusform>
         </translation>
     </message>
 </context>
@@ -339,113 +343,113 @@
     <name>PortProblem</name>
     <message>
         <source>permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff verweigert</translation>
     </message>
     <message>
         <source>permission denied. Add yourself to the group %1 (sudo usermod -aG %1 $USER), then log out and in again</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff verweigert. Nehmen Sie sich in die Gruppe %1 auf (sudo usermod -aG %1 $USER), und melden Sie sich dann ab und wieder an</translation>
     </message>
     <message>
         <source>%1 of %2 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Bytes</translation>
     </message>
     <message>
         <source>a folder, not a serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Ordner, keine serielle Schnittstelle</translation>
     </message>
     <message>
         <source>not a serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>keine serielle Schnittstelle</translation>
     </message>
     <message>
         <source>there is no such port</source>
-        <translation type="unfinished"></translation>
+        <translation>diese Schnittstelle gibt es nicht</translation>
     </message>
     <message>
         <source>in use by another program</source>
-        <translation type="unfinished"></translation>
+        <translation>ein anderes Programm benutzt sie</translation>
     </message>
     <message>
         <source>a transfer from it is under way</source>
-        <translation type="unfinished"></translation>
+        <translation>von ihr läuft schon eine Übertragung</translation>
     </message>
     <message>
         <source>the port does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>die Schnittstelle antwortet nicht</translation>
     </message>
     <message>
         <source>the port cannot be set to 9,600 bit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>die Schnittstelle lässt sich nicht auf 9.600 Bit/s einstellen</translation>
     </message>
     <message>
         <source>the port was closed or unplugged before anything arrived</source>
-        <translation type="unfinished"></translation>
+        <translation>die Schnittstelle wurde geschlossen oder abgezogen, bevor etwas ankam</translation>
     </message>
     <message>
         <source>the port was closed or unplugged after %1</source>
-        <translation type="unfinished"></translation>
+        <translation>die Schnittstelle wurde nach %1 geschlossen oder abgezogen</translation>
     </message>
     <message>
         <source>stopped before anything arrived</source>
-        <translation type="unfinished"></translation>
+        <translation>angehalten, bevor etwas ankam</translation>
     </message>
     <message>
         <source>stopped after %1</source>
-        <translation type="unfinished"></translation>
+        <translation>angehalten nach %1</translation>
     </message>
     <message>
         <source>nothing arrived within %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>innerhalb von %1 s kam nichts an</translation>
     </message>
     <message>
         <source>the device fell silent after %1: nothing for %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>das Gerät verstummte nach %1: %2 s lang kam nichts</translation>
     </message>
 </context>
 <context>
     <name>ReadoutHtml</name>
     <message>
         <source>Point at the chart, or use the arrow keys in it, to see the values there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigen Sie auf das Diagramm, oder benutzen Sie darin die Pfeiltasten, um die Werte dort zu sehen.</translation>
     </message>
 </context>
 <context>
     <name>SampleTexts</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke</translation>
     </message>
     <message>
         <source>Altitude (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe (%1)</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo</translation>
     </message>
     <message>
         <source>Pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Puls</translation>
     </message>
     <message>
         <source>Power (W)</source>
-        <translation type="unfinished"></translation>
+        <translation>Leistung (W)</translation>
     </message>
     <message>
         <source>Grade (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Steigung (%)</translation>
     </message>
     <message>
         <source>Temperature (°C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatur (°C)</translation>
     </message>
     <message>
         <source>Cadence</source>
-        <translation type="unfinished"></translation>
+        <translation>Trittfrequenz</translation>
     </message>
 </context>
 <context>
@@ -453,832 +457,842 @@
     <message>
         <source>Chart over %1: %2</source>
         <comment>x quantity, series</comment>
-        <translation type="unfinished"></translation>
+        <translation>Diagramm über %1: %2</translation>
     </message>
 </context>
 <context>
     <name>StatBars</name>
     <message>
         <source>No tours</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Touren</translation>
     </message>
     <message>
         <source>Statistics %1 %2</source>
         <comment>period and quantity</comment>
-        <translation type="unfinished"></translation>
+        <translation>Statistik %1 %2</translation>
     </message>
 </context>
 <context>
     <name>StatQuantity</name>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Elevation Gain</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhenmeter</translation>
     </message>
     <message>
         <source>Heart Beats</source>
-        <translation type="unfinished"></translation>
+        <translation>Herzschläge</translation>
     </message>
 </context>
 <context>
     <name>StatValues</name>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>Elevation gain</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhenmeter</translation>
     </message>
     <message>
         <source>Average speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchschnittstempo</translation>
     </message>
     <message>
         <source>Highest speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchsttempo</translation>
     </message>
     <message>
         <source>Average pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchschnittspuls</translation>
     </message>
     <message>
         <source>Highest pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchster Puls</translation>
     </message>
     <message>
         <source>Heart beats</source>
-        <translation type="unfinished"></translation>
+        <translation>Herzschläge</translation>
     </message>
     <message>
         <source>Average grade uphill</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchschnittliche Steigung</translation>
     </message>
     <message>
         <source>Average grade downhill</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchschnittliches Gefälle</translation>
     </message>
     <message>
         <source>First tour</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Tour</translation>
     </message>
     <message>
         <source>Last tour</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Tour</translation>
     </message>
 </context>
 <context>
     <name>TourColumns</name>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>Elevation Gain (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhenmeter (%1)</translation>
     </message>
     <message>
         <source>Average Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ø Tempo</translation>
     </message>
     <message>
         <source>Max Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. Tempo</translation>
     </message>
     <message>
         <source>Average Pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Ø Puls</translation>
     </message>
     <message>
         <source>Max Pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. Puls</translation>
     </message>
     <message>
         <source>Moving Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Fahrtempo</translation>
     </message>
     <message>
         <source>Climbs</source>
-        <translation type="unfinished"></translation>
+        <translation>Anstiege</translation>
     </message>
     <message>
         <source>Max Grade (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. Steigung (%)</translation>
     </message>
     <message>
         <source>Power (W)</source>
-        <translation type="unfinished"></translation>
+        <translation>Leistung (W)</translation>
     </message>
     <message>
         <source>Temperature (°C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatur (°C)</translation>
     </message>
 </context>
 <context>
     <name>TourExport</name>
     <message>
         <source>it is a link that leads nowhere</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist eine Verknüpfung, die ins Leere führt</translation>
     </message>
     <message>
         <source>it is there already</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt sie schon</translation>
     </message>
     <message>
         <source>it holds tours, which an export would replace</source>
-        <translation type="unfinished"></translation>
+        <translation>sie enthält Touren, die ein Export ersetzen würde</translation>
     </message>
 </context>
 <context>
     <name>TourPage</name>
     <message>
         <source>it holds tours, which a page would replace</source>
-        <translation type="unfinished"></translation>
+        <translation>sie enthält Touren, die eine Seite ersetzen würde</translation>
     </message>
     <message>
         <source>the page cannot be drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>die Seite lässt sich nicht zeichnen</translation>
     </message>
     <message>
         <source>%1 was not printed: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde nicht gedruckt: %2.</translation>
     </message>
     <message>
         <source>The printer %1 does not take the page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker %1 nimmt die Seite nicht an.</translation>
     </message>
 </context>
 <context>
     <name>TourReport</name>
     <message>
         <source>The tour has no samples.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tour hat keine Messpunkte.</translation>
     </message>
     <message>
         <source>This tour is removed from its document.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Tour ist aus ihrem Dokument entfernt.</translation>
     </message>
 </context>
 <context>
     <name>TourSummary</name>
     <message>
         <source>Tour</source>
-        <translation type="unfinished"></translation>
+        <translation>Tour</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo</translation>
     </message>
     <message>
         <source>Climbing</source>
-        <translation type="unfinished"></translation>
+        <translation>Bergauf</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Bergab</translation>
     </message>
     <message>
         <source>Pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Puls</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Leistung</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatur</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchschnitt</translation>
     </message>
     <message>
         <source>Average while moving</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchschnitt in Fahrt</translation>
     </message>
     <message>
         <source>Highest</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchstwert</translation>
     </message>
     <message>
         <source>Elevation gain (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhenmeter (%1)</translation>
     </message>
     <message>
         <source>Altitude at the end (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe am Ende (%1)</translation>
     </message>
     <message>
         <source>Climbs</source>
-        <translation type="unfinished"></translation>
+        <translation>Anstiege</translation>
     </message>
     <message>
         <source>Longest climb</source>
-        <translation type="unfinished"></translation>
+        <translation>Längster Anstieg</translation>
     </message>
     <message>
         <source>Average climb</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchschnittlicher Anstieg</translation>
     </message>
     <message>
         <source>Average grade</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchschnittliche Steigung</translation>
     </message>
     <message>
         <source>Steepest grade</source>
-        <translation type="unfinished"></translation>
+        <translation>Größte Steigung</translation>
     </message>
     <message>
         <source>Steepest angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Steilster Winkel</translation>
     </message>
     <message>
         <source>Descents</source>
-        <translation type="unfinished"></translation>
+        <translation>Abfahrten</translation>
     </message>
     <message>
         <source>Longest descent</source>
-        <translation type="unfinished"></translation>
+        <translation>Längste Abfahrt</translation>
     </message>
     <message>
         <source>Lowest</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiefstwert</translation>
     </message>
 </context>
 <context>
     <name>TypedStreamReader</name>
     <message>
         <source>reference to an entry of another kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Verweis auf einen Eintrag anderer Art</translation>
     </message>
     <message>
         <source>%1 at byte %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bei Byte %2</translation>
     </message>
     <message>
         <source>archives of more than 1 GiB are not read</source>
-        <translation type="unfinished"></translation>
+        <translation>Archive von mehr als 1 GiB werden nicht gelesen</translation>
     </message>
     <message>
         <source>no typed stream</source>
-        <translation type="unfinished"></translation>
+        <translation>kein typisierter Strom</translation>
     </message>
     <message>
         <source>typed stream of unknown version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>typisierter Strom der unbekannten Version %1</translation>
     </message>
     <message>
         <source>what it holds takes more than %1 MiB of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>der Inhalt braucht mehr als %1 MiB Speicher</translation>
     </message>
     <message>
         <source>%1 bytes wanted, %2 left</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Bytes erwartet, %2 übrig</translation>
     </message>
     <message>
         <source>an integer expected, not the mark 0x%1</source>
-        <translation type="unfinished"></translation>
+        <translation>eine ganze Zahl erwartet, nicht die Marke 0x%1</translation>
     </message>
     <message>
         <source>the integer %1 does not fit its type</source>
-        <translation type="unfinished"></translation>
+        <translation>die ganze Zahl %1 passt nicht zu ihrem Typ</translation>
     </message>
     <message>
         <source>negative length %1</source>
-        <translation type="unfinished"></translation>
+        <translation>negative Länge %1</translation>
     </message>
     <message>
         <source>reference to an entry that is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>Verweis auf einen Eintrag, den es nicht gibt</translation>
     </message>
     <message>
         <source>a text expected</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Text erwartet</translation>
     </message>
     <message>
         <source>a chain of more than 64 classes</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Kette von mehr als 64 Klassen</translation>
     </message>
     <message>
         <source>no class name</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Klassenname</translation>
     </message>
     <message>
         <source>more than 65,536 classes</source>
-        <translation type="unfinished"></translation>
+        <translation>mehr als 65.536 Klassen</translation>
     </message>
     <message>
         <source>no type string of values that can be read</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Typangabe von lesbaren Werten</translation>
     </message>
     <message>
         <source>the end of an object that was not begun</source>
-        <translation type="unfinished"></translation>
+        <translation>das Ende eines Objekts, das nicht begonnen wurde</translation>
     </message>
     <message>
         <source>an object without a class</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Objekt ohne Klasse</translation>
     </message>
     <message>
         <source>objects nested more than 200 deep</source>
-        <translation type="unfinished"></translation>
+        <translation>mehr als 200 ineinander enthaltene Objekte</translation>
     </message>
     <message>
         <source>an object that contains itself</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Objekt, das sich selbst enthält</translation>
     </message>
     <message>
         <source>an object expected</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Objekt erwartet</translation>
     </message>
     <message>
         <source>a value expected</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Wert erwartet</translation>
     </message>
     <message>
         <source>references to the same objects over and over again</source>
-        <translation type="unfinished"></translation>
+        <translation>immer wieder Verweise auf dieselben Objekte</translation>
     </message>
     <message>
         <source>an integer expected</source>
-        <translation type="unfinished"></translation>
+        <translation>eine ganze Zahl erwartet</translation>
     </message>
     <message>
         <source>bytes expected</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes erwartet</translation>
     </message>
     <message>
         <source>a C string expected</source>
-        <translation type="unfinished"></translation>
+        <translation>eine C-Zeichenkette erwartet</translation>
     </message>
     <message>
         <source>a data block of %1 bytes that says %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Datenblock von %1 Bytes, der %2 angibt</translation>
     </message>
     <message>
         <source>%1 elements do not fit into %2 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Elemente passen nicht in %2 Bytes</translation>
     </message>
     <message>
         <source>the list ends after %1 of %2 elements</source>
-        <translation type="unfinished"></translation>
+        <translation>die Liste endet nach %1 von %2 Elementen</translation>
     </message>
     <message>
         <source>a data block of %1 bytes expected</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Datenblock von %1 Bytes erwartet</translation>
     </message>
 </context>
 <context>
     <name>WholeFile</name>
     <message>
         <source>nothing can be written in its folder: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>in ihrem Ordner lässt sich nichts schreiben: %1</translation>
     </message>
     <message>
         <source>it is there already</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt sie schon</translation>
     </message>
     <message>
         <source>no file can have this name</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Datei kann so heißen</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist ein Ordner</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist keine gewöhnliche Datei</translation>
     </message>
     <message>
         <source>it is a link that leads nowhere</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist eine Verknüpfung, die ins Leere führt</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Keeps the tours of a cycle computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewahrt die Touren eines Fahrradcomputers auf.</translation>
     </message>
     <message>
         <source>What of the log is written: none, errors or trace.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was vom Protokoll geschrieben wird: none, errors oder trace.</translation>
     </message>
     <message>
         <source>Starts with the simulated device plugged in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginnt mit angestecktem simuliertem Gerät.</translation>
     </message>
     <message>
         <source>Where newer versions are looked for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo nach neueren Versionen gesucht wird.</translation>
     </message>
     <message>
         <source>Documents to open and raw dumps to import.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokumente zum Öffnen und Rohdaten zum Importieren.</translation>
     </message>
 </context>
 <context>
     <name>ridelog::AltitudeRange</name>
     <message>
         <source>&amp;Altitudes from</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhen &amp;von</translation>
     </message>
     <message>
         <source>Lowest altitude of the chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterste Höhe des Diagramms</translation>
     </message>
     <message>
         <source>Highest altitude of the chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Oberste Höhe des Diagramms</translation>
     </message>
     <message>
         <source>to</source>
-        <translation type="unfinished"></translation>
+        <translation>bis</translation>
     </message>
     <message>
         <source>“%1” is no altitude. Write a number, like 850.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Höhe. Schreiben Sie eine Zahl wie 850.</translation>
     </message>
     <message>
         <source>“%1” is out of range. It has to be between %2 and %3 %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist außerhalb des Bereichs. Erlaubt ist %2 bis %3 %4.</translation>
     </message>
 </context>
 <context>
     <name>ridelog::ApplicationWindows</name>
     <message>
         <source>a document without a name</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Dokument ohne Namen</translation>
     </message>
     <message>
         <source>Changes that are not saved cannot be kept aside: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht gespeicherte Änderungen können nicht beiseitegelegt werden: %1</translation>
     </message>
     <message numerus="yes">
         <source>The document as it was on %1, with %Ln tour(s), was kept.</source>
         <comment>date</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Das Dokument vom Stand %1 mit %Ln Tour wurde aufbewahrt.</numerusform>
+            <numerusform>Das Dokument vom Stand %1 mit %Ln Touren wurde aufbewahrt.</numerusform>
         </translation>
     </message>
     <message>
         <source>Meanwhile %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inzwischen %1.</translation>
     </message>
     <message>
         <source>ridelog ended before %1 was saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>ridelog endete, bevor %1 gespeichert war.</translation>
     </message>
     <message>
         <source>&amp;Recover</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederherstellen</translation>
     </message>
     <message>
         <source>&amp;Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verwerfen</translation>
     </message>
     <message>
         <source>Ask Me &amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Später fragen</translation>
     </message>
     <message>
         <source>What ridelog kept of %1 could not be recovered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was ridelog von %1 aufbewahrt hat, ließ sich nicht wiederherstellen.</translation>
     </message>
     <message>
         <source>%1
 
 It is in %2, and stays there until it is discarded.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+
+Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>&amp;Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Behalten</translation>
     </message>
     <message>
         <source>What was kept of %1 was not discarded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was von %1 aufbewahrt ist, wurde nicht verworfen.</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>Tours (*.%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Touren (*.%1)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien (*)</translation>
     </message>
     <message>
         <source>%1 could not be opened: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ließ sich nicht öffnen: %2</translation>
     </message>
     <message>
         <source>The download address “%1” could not be opened in a browser.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Adresse „%1“ zum Herunterladen ließ sich in keinem Browser öffnen.</translation>
     </message>
     <message>
         <source>Newer versions could not be looked for: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach neueren Versionen konnte nicht gesucht werden: %1</translation>
     </message>
     <message>
         <source>Looking for newer versions…</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche nach neueren Versionen…</translation>
     </message>
 </context>
 <context>
     <name>ridelog::BarChartView</name>
     <message>
         <source>Bar chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Balkendiagramm</translation>
     </message>
 </context>
 <context>
     <name>ridelog::ChartArrayView</name>
     <message>
         <source>Chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramm</translation>
     </message>
 </context>
 <context>
     <name>ridelog::ConnectView</name>
     <message>
         <source>&amp;Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verbinden</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>Serielle Schnittstelle</translation>
     </message>
     <message>
         <source>Progress of the transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt der Übertragung</translation>
     </message>
     <message>
         <source>Press Connect, wait for the line above to say that it is waiting, and then start sending from the device&apos;s own menu. A transfer takes about 85 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken Sie „Verbinden“, warten Sie, bis in der Zeile darüber steht, dass gewartet wird, und starten Sie dann das Senden im Menü des Geräts. Eine Übertragung dauert etwa 85 Sekunden.</translation>
     </message>
     <message>
         <source>Serial &amp;port:</source>
-        <translation type="unfinished"></translation>
+        <translation>Serielle &amp;Schnittstelle:</translation>
     </message>
     <message>
         <source>Simulated device (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Simuliertes Gerät (%1)</translation>
     </message>
     <message>
         <source>No serial port found</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Schnittstelle gefunden</translation>
+    </message>
+    <message>
+        <source>Trou&amp;ble with the Port…</source>
+        <translation>&amp;Probleme mit der Schnittstelle…</translation>
     </message>
 </context>
 <context>
     <name>ridelog::DescriptionEdit</name>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung</translation>
     </message>
 </context>
 <context>
     <name>ridelog::DescriptionLoader</name>
     <message>
         <source>the server answers %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>der Server antwortet %1 %2</translation>
     </message>
     <message>
         <source>this build of ridelog has no address to look for updates at</source>
-        <translation type="unfinished"></translation>
+        <translation>in dieser Ausgabe von ridelog ist keine Adresse für die Suche nach neueren Versionen</translation>
     </message>
     <message>
         <source>not an address of the web (http, https) or of a file</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Adresse im Web (http, https) und keine einer Datei</translation>
     </message>
     <message>
         <source>larger than %1 MiB</source>
-        <translation type="unfinished"></translation>
+        <translation>größer als %1 MiB</translation>
     </message>
     <message>
         <source>it took longer than %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>es dauerte länger als %1 s</translation>
     </message>
 </context>
 <context>
     <name>ridelog::EmptyDocumentView</name>
     <message>
         <source>No tours yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Touren</translation>
     </message>
     <message>
         <source>Take them from your cycle computer, or import a raw dump of its memory. You can also drop a dump on this window.</source>
-        <translation type="unfinished"></translation>
+        <translation>Holen Sie sie von Ihrem Fahrradcomputer, oder importieren Sie Rohdaten seines Speichers. Rohdaten lassen sich auch auf dieses Fenster ziehen.</translation>
     </message>
     <message>
         <source>Connect De&amp;vice</source>
-        <translation type="unfinished"></translation>
+        <translation>Ge&amp;rät verbinden</translation>
     </message>
     <message>
         <source>&amp;Import Dump…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rohdaten &amp;importieren…</translation>
     </message>
 </context>
 <context>
     <name>ridelog::ExportPanel</name>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportieren</translation>
     </message>
     <message>
         <source>Selected tours (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgewählte Touren (%1)</translation>
     </message>
     <message>
         <source>All tours (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Touren (%1)</translation>
     </message>
     <message>
         <source>&amp;Tours:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Touren:</translation>
     </message>
     <message>
         <source>&amp;Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Format:</translation>
     </message>
     <message>
         <source>C&amp;hoose…</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;uswählen…</translation>
     </message>
     <message>
         <source>Fo&amp;lder:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner:</translation>
     </message>
     <message>
         <source>&amp;All tours in one file</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle Touren in eine Datei</translation>
     </message>
     <message>
         <source>&amp;Export</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportieren</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;bbrechen</translation>
     </message>
     <message>
         <source>Choose Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner auswählen</translation>
     </message>
     <message numerus="yes">
         <source>%Ln file(s), such as %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Datei wie %1</numerusform>
+            <numerusform>%Ln Dateien wie %1</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 und %2 weitere</translation>
     </message>
     <message>
         <source>Replace %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ersetzen?</translation>
     </message>
     <message numerus="yes">
         <source>Replace %Ln file(s)?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Datei ersetzen?</numerusform>
+            <numerusform>%Ln Dateien ersetzen?</numerusform>
         </translation>
     </message>
     <message>
         <source>It is in %1 already. What it holds is lost then.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie ist schon in %1. Ihr Inhalt geht dann verloren.</translation>
     </message>
     <message>
         <source>In %1 there are already %2. What they hold is lost then.</source>
-        <translation type="unfinished"></translation>
+        <translation>In %1 gibt es schon %2. Ihr Inhalt geht dann verloren.</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ersetzen</translation>
     </message>
     <message>
         <source>Another export is under way. Try again when it has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderer Export läuft noch. Versuchen Sie es nach seinem Ende noch einmal.</translation>
     </message>
     <message>
         <source>Export cancelled: nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Export abgebrochen: Es wurde nichts geschrieben.</translation>
     </message>
     <message numerus="yes">
         <source>Export cancelled: %1 of %Ln file(s) were written.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Export abgebrochen: %1 von %Ln Datei wurde geschrieben.</numerusform>
+            <numerusform>Export abgebrochen: %1 von %Ln Dateien wurden geschrieben.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln tour(s) exported as %1.</source>
         <comment>name of a file</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Tour exportiert als %1.</numerusform>
+            <numerusform>%Ln Touren exportiert als %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln tour(s) exported to %1.</source>
         <comment>name of a folder</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Tour exportiert nach %1.</numerusform>
+            <numerusform>%Ln Touren exportiert nach %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln file(s) were written.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Datei wurde geschrieben.</numerusform>
+            <numerusform>%Ln Dateien wurden geschrieben.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>%Ln file(s) could not be written: %1</source>
         <comment>list of files and reasons</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Datei ließ sich nicht schreiben: %1</numerusform>
+            <numerusform>%Ln Dateien ließen sich nicht schreiben: %1</numerusform>
         </translation>
     </message>
     <message>
         <source>Save Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht speichern</translation>
     </message>
     <message>
         <source>Reports (*.%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Berichte (*.%1)</translation>
+    </message>
+    <message>
+        <source>Hel&amp;p</source>
+        <translation>&amp;Hilfe</translation>
     </message>
 </context>
 <context>
     <name>ridelog::ExportProgress</name>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportieren</translation>
     </message>
     <message>
         <source>Exported tours</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportierte Touren</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;bbrechen</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %Ln tour(s)</source>
         <comment>number of tours done</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 von %Ln Tour</numerusform>
+            <numerusform>%1 von %Ln Touren</numerusform>
         </translation>
     </message>
 </context>
@@ -1286,452 +1300,542 @@ It is in %2, and stays there until it is discarded.</source>
     <name>ridelog::FolderField</name>
     <message>
         <source>Say in which folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie einen Ordner an.</translation>
     </message>
     <message>
         <source>%1 is not a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist kein Ordner.</translation>
     </message>
     <message>
         <source>You may not write in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>In %1 dürfen Sie nicht schreiben.</translation>
     </message>
 </context>
 <context>
     <name>ridelog::MainWindowController</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neu</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;ffnen…</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt &amp;geöffnet</translation>
     </message>
     <message>
         <source>&amp;Import Dump…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rohdaten &amp;importieren…</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportieren…</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern &amp;unter…</translation>
     </message>
     <message>
         <source>Re&amp;vert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zurücksetzen</translation>
     </message>
     <message>
         <source>&amp;Print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Drucken…</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;chließen</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>Re&amp;move Tour</source>
-        <translation type="unfinished"></translation>
+        <translation>Tour ent&amp;fernen</translation>
     </message>
     <message>
         <source>Re&amp;store Tour</source>
-        <translation type="unfinished"></translation>
+        <translation>Tour wiederhers&amp;tellen</translation>
     </message>
     <message>
         <source>S&amp;how Removed Tours</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernte &amp;zeigen</translation>
     </message>
     <message>
         <source>&amp;Find</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Suchen</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alles auswählen</translation>
     </message>
     <message>
         <source>Un&amp;its</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein&amp;heiten</translation>
     </message>
     <message>
         <source>&amp;Miles, mph and Feet</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Meilen, mph und Fuß</translation>
     </message>
     <message>
         <source>&amp;Kilometres, km/h and Metres</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kilometer, km/h und Meter</translation>
     </message>
     <message>
         <source>&amp;Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;palten</translation>
     </message>
     <message>
         <source>Sort &amp;By</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;ortieren nach</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einstellungen…</translation>
     </message>
     <message>
         <source>&amp;Tour</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tour</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Öffnen</translation>
     </message>
     <message>
         <source>Open Tour</source>
-        <translation type="unfinished"></translation>
+        <translation>Tour öffnen</translation>
     </message>
     <message>
         <source>Edit &amp;Title</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Titel bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gerät</translation>
     </message>
     <message>
         <source>Connect &amp;Drawer</source>
-        <translation type="unfinished"></translation>
+        <translation>Geräte&amp;leiste</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerät</translation>
     </message>
     <message>
         <source>&amp;Start Transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Übertragung &amp;starten</translation>
     </message>
     <message>
         <source>S&amp;top Transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Übertragung &amp;anhalten</translation>
     </message>
     <message>
         <source>Simulated De&amp;vice</source>
-        <translation type="unfinished"></translation>
+        <translation>Simuliertes &amp;Gerät</translation>
     </message>
     <message>
         <source>&amp;Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Statistik</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>&amp;Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;neuen Versionen suchen…</translation>
     </message>
     <message>
         <source>Send &amp;Feedback…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückmeldung senden…</translation>
     </message>
     <message>
         <source>&amp;About ridelog</source>
-        <translation type="unfinished"></translation>
+        <translation>Ü&amp;ber ridelog</translation>
     </message>
     <message>
         <source>Tool Bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeugleiste</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importieren</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>No Documents Yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Dokumente</translation>
     </message>
     <message>
         <source>There is no simulated device: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein simuliertes Gerät: %1</translation>
     </message>
     <message>
         <source>The simulated device is plugged in. Press Connect to take its tours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das simulierte Gerät ist angesteckt. Drücken Sie „Verbinden“, um seine Touren zu holen.</translation>
     </message>
     <message>
         <source>No mail program could be started. Write to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Mailprogramm ließ sich starten. Schreiben Sie an %1.</translation>
     </message>
     <message>
         <source>About ridelog</source>
-        <translation type="unfinished"></translation>
+        <translation>Über ridelog</translation>
     </message>
     <message>
         <source>&lt;b&gt;ridelog %1&lt;/b&gt;&lt;br&gt;Keeps the tours of a cycle computer for a lifetime.&lt;br&gt;&lt;br&gt;Free software under the MIT licence.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;ridelog %1&lt;/b&gt;&lt;br&gt;Bewahrt die Touren eines Fahrradcomputers ein Leben lang auf.&lt;br&gt;&lt;br&gt;Freie Software unter der MIT-Lizenz.</translation>
     </message>
     <message>
         <source>The document can only be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument kann nur gelesen werden: %1</translation>
     </message>
     <message>
         <source>Distance:</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke:</translation>
     </message>
     <message>
         <source>Average speed:</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchschnittstempo:</translation>
     </message>
     <message numerus="yes">
         <source>%Ln tour(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Tour</numerusform>
+            <numerusform>%Ln Touren</numerusform>
         </translation>
     </message>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Namen</translation>
     </message>
     <message>
         <source>Untitled %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Namen %1</translation>
     </message>
     <message>
         <source>%1 (read-only)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (nur lesen)</translation>
     </message>
     <message>
         <source>Tours</source>
-        <translation type="unfinished"></translation>
+        <translation>Touren</translation>
     </message>
     <message>
         <source>There are no tours in this period.</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesem Zeitraum gibt es keine Touren.</translation>
     </message>
     <message>
         <source>Import Dump</source>
-        <translation type="unfinished"></translation>
+        <translation>Rohdaten importieren</translation>
     </message>
     <message>
         <source>%1 was not imported: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde nicht importiert: %2</translation>
     </message>
     <message numerus="yes">
         <source>%1: %Ln tour(s) added, %2 already there.</source>
         <comment>file, number of tours</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: %Ln Tour hinzugefügt, %2 schon vorhanden.</numerusform>
+            <numerusform>%1: %Ln Touren hinzugefügt, %2 schon vorhanden.</numerusform>
         </translation>
     </message>
     <message>
         <source>The document can only be read (%1). Save it under another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument kann nur gelesen werden (%1). Speichern Sie es unter einem anderen Namen.</translation>
     </message>
     <message>
         <source>%1 was not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde nicht gespeichert.</translation>
     </message>
     <message>
         <source>Saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert.</translation>
     </message>
     <message>
         <source>Another program has changed %1 since you opened it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat %1 geändert, seit Sie es geöffnet haben.</translation>
     </message>
     <message>
         <source>If you overwrite it, what the other program wrote is lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn Sie es überschreiben, geht verloren, was das andere Programm geschrieben hat.</translation>
     </message>
     <message>
         <source>&amp;Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Überschreiben</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern unter</translation>
     </message>
     <message>
         <source>Tours (*.%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Touren (*.%1)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Saved as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert als %1.</translation>
     </message>
     <message>
         <source>Go back to what %1 holds?</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück zum gespeicherten Stand von %1?</translation>
     </message>
     <message>
         <source>All changes since it was saved are lost, and cannot be brought back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Änderungen seit dem Speichern gehen verloren und lassen sich nicht zurückholen.</translation>
     </message>
     <message>
         <source>&amp;Revert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zurücksetzen</translation>
     </message>
     <message>
         <source>The document was not reverted: it has changed since you were asked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument wurde nicht zurückgesetzt: Es hat sich seit der Frage geändert.</translation>
     </message>
     <message>
         <source>%1 could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ließ sich nicht lesen.</translation>
     </message>
     <message>
         <source>The document is as it was saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument ist auf dem gespeicherten Stand.</translation>
     </message>
     <message>
         <source>A transfer from the device is under way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Übertragung vom Gerät läuft.</translation>
     </message>
     <message>
         <source>If you close the window now, it ends before the tours have arrived.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn Sie das Fenster jetzt schließen, endet sie, bevor die Touren angekommen sind.</translation>
     </message>
     <message>
         <source>&amp;Stop Transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Übertragung &amp;anhalten</translation>
     </message>
     <message>
         <source>Save the changes of %1 before it is closed?</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen an %1 vor dem Schließen speichern?</translation>
     </message>
     <message>
         <source>They are lost if you do not save them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonst gehen sie verloren.</translation>
     </message>
     <message>
         <source>&amp;Don&apos;t Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nicht speichern</translation>
     </message>
     <message numerus="yes">
         <source>%Ln tour(s) removed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Tour entfernt.</numerusform>
+            <numerusform>%Ln Touren entfernt.</numerusform>
         </translation>
     </message>
     <message>
         <source>What is removed stays in the document: see Edit &gt; Show Removed Tours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was entfernt ist, bleibt im Dokument: siehe Bearbeiten &gt; Entfernte zeigen.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln tour(s) restored.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Tour wiederhergestellt.</numerusform>
+            <numerusform>%Ln Touren wiederhergestellt.</numerusform>
         </translation>
     </message>
     <message>
         <source>; what arrived is in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>; was ankam, ist in %1</translation>
     </message>
     <message>
         <source>; what arrived could not be kept in %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>; was ankam, ließ sich nicht in %1 aufbewahren: %2</translation>
     </message>
     <message>
         <source>Dis&amp;connect</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trennen</translation>
     </message>
     <message>
         <source>&amp;Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verbinden</translation>
     </message>
     <message>
         <source>Disconnected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Getrennt.</translation>
     </message>
     <message>
         <source>Waiting for the device…</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten auf das Gerät…</translation>
     </message>
     <message>
         <source>There is no serial port. Plug in the device&apos;s cable, or choose Device &gt; Simulated Device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine serielle Schnittstelle. Stecken Sie das Kabel des Geräts ein, oder wählen Sie Gerät &gt; Simuliertes Gerät.</translation>
     </message>
     <message>
         <source>Cannot open %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lässt sich nicht öffnen: %2.</translation>
     </message>
     <message>
         <source>Transfer %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Übertragung %1.</translation>
     </message>
     <message>
         <source>Receiving…</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfangen…</translation>
     </message>
     <message>
         <source>Receiving, %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfangen, %1 %</translation>
     </message>
     <message numerus="yes">
         <source>Receiving, %1 %, %Ln second(s) left</source>
         <comment>percentage</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Empfangen, %1 %, noch %Ln Sekunde</numerusform>
+            <numerusform>Empfangen, %1 %, noch %Ln Sekunden</numerusform>
         </translation>
     </message>
     <message>
         <source>What arrived</source>
-        <translation type="unfinished"></translation>
+        <translation>Was ankam</translation>
     </message>
     <message>
         <source>Broken off: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgebrochen: %1.</translation>
     </message>
     <message>
         <source>%1 is no dump of the device: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 besteht nicht aus Rohdaten des Geräts: %2</translation>
     </message>
     <message numerus="yes">
         <source>Finished: %Ln tour(s) added, %1 already there</source>
         <comment>number of tours</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Fertig: %Ln Tour hinzugefügt, %1 schon vorhanden</numerusform>
+            <numerusform>Fertig: %Ln Touren hinzugefügt, %1 schon vorhanden</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>ridelog::ManualPage</name>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Seite des Handbuchs</translation>
+    </message>
+</context>
+<context>
+    <name>ridelog::ManualWindow</name>
+    <message>
+        <source>Manual</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Suchen</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>&amp;Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>&amp;Rückwärts suchen</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Larger Letters</source>
+        <translation>&amp;Größere Schrift</translation>
+    </message>
+    <message>
+        <source>&amp;Smaller Letters</source>
+        <translation>&amp;Kleinere Schrift</translation>
+    </message>
+    <message>
+        <source>&amp;Usual Letters</source>
+        <translation>&amp;Normale Schrift</translation>
+    </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>&amp;Gehe zu</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>&amp;Vor</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Inhalt</translation>
+    </message>
+    <message>
+        <source>Find on this page</source>
+        <translation>Auf dieser Seite suchen</translation>
+    </message>
+    <message>
+        <source>“%1” is not on this page.</source>
+        <translation>„%1“ steht nicht auf dieser Seite.</translation>
     </message>
 </context>
 <context>
     <name>ridelog::MyDocument</name>
     <message numerus="yes">
         <source>adding %n tours</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Tour hinzufügen</numerusform>
+            <numerusform>%n Touren hinzufügen</numerusform>
         </translation>
     </message>
 </context>
@@ -1739,638 +1843,650 @@ It is in %2, and stays there until it is discarded.</source>
     <name>ridelog::PreferenceAwareFormatter</name>
     <message>
         <source>Couldn not convert  to float</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist keine Zahl</translation>
     </message>
 </context>
 <context>
     <name>ridelog::PreferencesController</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>&amp;General</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Allgemein</translation>
     </message>
     <message>
         <source>&amp;Chart</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diagramm</translation>
     </message>
     <message>
         <source>&amp;Pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Puls</translation>
     </message>
     <message>
         <source>De&amp;vice</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gerät</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;chließen</translation>
     </message>
     <message>
         <source>What you choose lasts until ridelog ends: %1 cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was Sie wählen, gilt nur, bis ridelog endet: %1 lässt sich nicht schreiben.</translation>
     </message>
     <message>
         <source>Kilometres, km/h and metres</source>
-        <translation type="unfinished"></translation>
+        <translation>Kilometer, km/h und Meter</translation>
     </message>
     <message>
         <source>Miles, mph and feet</source>
-        <translation type="unfinished"></translation>
+        <translation>Meilen, mph und Fuß</translation>
     </message>
     <message>
         <source>&amp;Units:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einheiten:</translation>
     </message>
     <message>
         <source>Transfers:</source>
-        <translation type="unfinished"></translation>
+        <translation>Übertragungen:</translation>
     </message>
     <message>
         <source>&amp;Save the raw dump that arrives</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfangene &amp;Rohdaten speichern</translation>
     </message>
     <message>
         <source>As odoData.odo in your home folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Als odoData.odo im persönlichen Ordner.</translation>
     </message>
     <message>
         <source>Newer versions:</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuere Versionen:</translation>
     </message>
     <message>
         <source>Look for them &amp;automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;utomatisch danach suchen</translation>
     </message>
     <message>
         <source>Days between two looks for newer versions</source>
-        <translation type="unfinished"></translation>
+        <translation>Tage zwischen zwei Suchen nach neueren Versionen</translation>
     </message>
     <message>
         <source>&amp;Every:</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;lle:</translation>
     </message>
     <message>
         <source>System language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache des Systems</translation>
     </message>
     <message>
         <source>La&amp;nguage:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sprache:</translation>
     </message>
     <message>
         <source>Counts from the next start on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gilt ab dem nächsten Start.</translation>
     </message>
     <message>
         <source>Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben</translation>
     </message>
     <message>
         <source>Al&amp;titude:</source>
-        <translation type="unfinished"></translation>
+        <translation>H&amp;öhe:</translation>
     </message>
     <message>
         <source>Colour of the Altitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der Höhe</translation>
     </message>
     <message>
         <source>&amp;Speed:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tempo:</translation>
     </message>
     <message>
         <source>Colour of the Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe des Tempos</translation>
     </message>
     <message>
         <source>P&amp;ulse:</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;uls:</translation>
     </message>
     <message>
         <source>Colour of the Pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe des Pulses</translation>
     </message>
     <message>
         <source>&amp;Below the pulse range:</source>
-        <translation type="unfinished"></translation>
+        <translation>U&amp;nter dem Pulsbereich:</translation>
     </message>
     <message>
         <source>Colour below the Pulse Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe unter dem Pulsbereich</translation>
     </message>
     <message>
         <source>&amp;Within the pulse range:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Im Pulsbereich:</translation>
     </message>
     <message>
         <source>Colour within the Pulse Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe im Pulsbereich</translation>
     </message>
     <message>
         <source>Ab&amp;ove the pulse range:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ü&amp;ber dem Pulsbereich:</translation>
     </message>
     <message>
         <source>Colour above the Pulse Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe über dem Pulsbereich</translation>
     </message>
     <message>
         <source>&amp;Reset Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben &amp;zurücksetzen</translation>
     </message>
     <message>
         <source>Speed has an a&amp;xis of its own beside another series</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;empo hat neben anderen Reihen eine eigene Achse</translation>
     </message>
     <message>
         <source>Lowest pulse of the range</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterster Puls des Bereichs</translation>
     </message>
     <message>
         <source>Highest pulse of the range</source>
-        <translation type="unfinished"></translation>
+        <translation>Oberster Puls des Bereichs</translation>
     </message>
     <message>
         <source>&amp;to</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;bis</translation>
     </message>
     <message>
         <source>beats per minute</source>
-        <translation type="unfinished"></translation>
+        <translation>Schläge pro Minute</translation>
     </message>
     <message>
         <source>&amp;Range:</source>
-        <translation type="unfinished"></translation>
+        <translation>Be&amp;reich:</translation>
     </message>
     <message>
         <source>Zones:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zonen:</translation>
     </message>
     <message>
         <source>Draw them &amp;behind the pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter dem Puls &amp;zeichnen</translation>
     </message>
     <message>
         <source>&amp;Fade those outside the range</source>
-        <translation type="unfinished"></translation>
+        <translation>Die außerhalb des Bereichs b&amp;lasser</translation>
     </message>
     <message>
         <source>Serial line:</source>
-        <translation type="unfinished"></translation>
+        <translation>Serielle Schnittstelle:</translation>
     </message>
     <message>
         <source>&amp;Alternate transfer settings (two stop bits)</source>
-        <translation type="unfinished"></translation>
+        <translation>And&amp;ere Übertragung (zwei Stoppbits)</translation>
     </message>
     <message>
         <source>Try them when what arrives is no dump of the device. They count from the next transfer on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Probieren Sie das, wenn das Empfangene nicht aus Rohdaten des Geräts besteht. Es gilt ab der nächsten Übertragung.</translation>
     </message>
     <message numerus="yes">
         <source> day(s)</source>
         <comment>after the number</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> Tag</numerusform>
+            <numerusform> Tage</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
     </message>
 </context>
 <context>
     <name>ridelog::PreferencesPage</name>
     <message>
         <source>Reset to &amp;Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard &amp;wiederherstellen</translation>
     </message>
 </context>
 <context>
     <name>ridelog::SaveChartPanel</name>
     <message>
         <source>it holds tours, which a picture would replace</source>
-        <translation type="unfinished"></translation>
+        <translation>sie enthält Touren, die ein Bild ersetzen würde</translation>
     </message>
     <message>
         <source>%1 was not saved: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde nicht gespeichert: %2.</translation>
     </message>
     <message>
         <source>The chart was saved as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Diagramm wurde gespeichert als %1.</translation>
     </message>
     <message>
         <source>Save Chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramm speichern</translation>
     </message>
     <message>
         <source>Width in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite in Pixeln</translation>
     </message>
     <message>
         <source>Height in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe in Pixeln</translation>
     </message>
     <message>
         <source>&amp;Use as default size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe &amp;merken</translation>
     </message>
     <message>
         <source>pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel</translation>
     </message>
     <message>
         <source>Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe:</translation>
     </message>
 </context>
 <context>
     <name>ridelog::StartWindow</name>
     <message>
         <source>ridelog</source>
-        <translation type="unfinished"></translation>
+        <translation>ridelog</translation>
     </message>
     <message>
         <source>Recent documents</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt geöffnete Dokumente</translation>
     </message>
     <message>
         <source>&amp;Recent documents:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zuletzt geöffnete Dokumente:</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen…</translation>
     </message>
     <message>
         <source>Import Dump…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rohdaten importieren…</translation>
     </message>
 </context>
 <context>
     <name>ridelog::StatValuesView</name>
     <message>
         <source>Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte</translation>
     </message>
 </context>
 <context>
     <name>ridelog::StatWindowController</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>Save C&amp;hart…</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;iagramm speichern…</translation>
     </message>
     <message>
         <source>Save &amp;Report…</source>
-        <translation type="unfinished"></translation>
+        <translation>Be&amp;richt speichern…</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Copy Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte &amp;kopieren</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>&amp;Go</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gehe zu</translation>
     </message>
     <message>
         <source>&amp;Previous Year</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voriges Jahr</translation>
     </message>
     <message>
         <source>&amp;Next Year</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächstes Jahr</translation>
     </message>
     <message>
         <source>P&amp;revious Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Voriger &amp;Monat</translation>
     </message>
     <message>
         <source>Ne&amp;xt Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächster M&amp;onat</translation>
     </message>
     <message>
         <source>Pre&amp;vious Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorige &amp;Woche</translation>
     </message>
     <message>
         <source>Next &amp;Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste Wo&amp;che</translation>
     </message>
     <message>
         <source>&amp;Today</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Heute</translation>
     </message>
     <message>
         <source>&amp;Date…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datum…</translation>
     </message>
     <message>
         <source>The statistics are copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Statistik ist kopiert.</translation>
     </message>
     <message>
         <source>Statistics – %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistik – %1</translation>
     </message>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Heute</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Period</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitraum</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahr</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Monat</translation>
     </message>
     <message>
         <source>Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche</translation>
     </message>
     <message>
         <source>Save Chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramm speichern…</translation>
     </message>
     <message>
         <source>This window goes from the year %1 to the year %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Fenster reicht vom Jahr %1 bis zum Jahr %2.</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
     </message>
 </context>
 <context>
     <name>ridelog::TourSummaryView</name>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Übersicht</translation>
     </message>
 </context>
 <context>
     <name>ridelog::TourTableView</name>
     <message>
         <source>Tours</source>
-        <translation type="unfinished"></translation>
+        <translation>Touren</translation>
     </message>
     <message>
         <source>&amp;Reverse Order</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Umgekehrte Reihenfolge</translation>
     </message>
 </context>
 <context>
     <name>ridelog::TourWindowController</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportieren…</translation>
     </message>
     <message>
         <source>Save C&amp;hart…</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;iagramm speichern…</translation>
     </message>
     <message>
         <source>&amp;Print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Drucken…</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Copy Samples</source>
-        <translation type="unfinished"></translation>
+        <translation>Messpunkte &amp;kopieren</translation>
     </message>
     <message>
         <source>Copy Su&amp;mmary</source>
-        <translation type="unfinished"></translation>
+        <translation>Ü&amp;bersicht kopieren</translation>
     </message>
     <message>
         <source>F&amp;ormat</source>
-        <translation type="unfinished"></translation>
+        <translation>F&amp;ormat</translation>
     </message>
     <message>
         <source>&amp;Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fett</translation>
     </message>
     <message>
         <source>&amp;Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kursiv</translation>
     </message>
     <message>
         <source>&amp;Underline</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Unterstrichen</translation>
     </message>
     <message>
         <source>&amp;List</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Liste</translation>
     </message>
     <message>
         <source>Lin&amp;k…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verknüpfung…</translation>
     </message>
     <message>
         <source>&amp;Open Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Verknüpfung &amp;öffnen</translation>
     </message>
     <message>
         <source>Here is no link to a page or a mail address that could be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier ist keine Verknüpfung zu einer Seite oder Mailadresse, die sich öffnen ließe.</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>&amp;Manual Range of Altitudes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fester Höhenbereich</translation>
     </message>
     <message>
         <source>&amp;Data</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Daten</translation>
     </message>
     <message>
         <source>S&amp;ummary</source>
-        <translation type="unfinished"></translation>
+        <translation>Ü&amp;bersicht</translation>
     </message>
     <message>
         <source>Horizontal axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Waagrechte Achse</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecke</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Series</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihen</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Übersicht</translation>
     </message>
     <message>
         <source>Save Chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramm speichern…</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung</translation>
     </message>
     <message>
         <source>Samples</source>
-        <translation type="unfinished"></translation>
+        <translation>Messpunkte</translation>
     </message>
     <message>
         <source>yyyy/MM/dd - HH:mm</source>
-        <translation type="unfinished"></translation>
+        <translation>dd.MM.yyyy - HH:mm</translation>
     </message>
     <message>
         <source>Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Verknüpfung</translation>
     </message>
     <message>
         <source>Address of the page that the selected words lead to, empty for none:</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse der Seite, zu der die ausgewählten Wörter führen; leer für keine:</translation>
     </message>
     <message>
         <source>No samples are selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es sind keine Messpunkte ausgewählt.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln sample(s) copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Messpunkt kopiert.</numerusform>
+            <numerusform>%Ln Messpunkte kopiert.</numerusform>
         </translation>
     </message>
     <message>
         <source>The summary is copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Übersicht ist kopiert.</translation>
     </message>
     <message>
         <source>Altitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo</translation>
     </message>
     <message>
         <source>Pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Puls</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
     </message>
 </context>
 <context>
     <name>ridelog::UndoActions</name>
     <message>
         <source>&amp;Undo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig: %1</translation>
     </message>
     <message>
         <source>&amp;Redo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederholen: %1</translation>
     </message>
 </context>
 <context>
     <name>ridelog::WindowMenu</name>
     <message>
         <source>&amp;Window</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fenster</translation>
     </message>
 </context>
 <context>
     <name>ridelog::XMLUpdater</name>
     <message>
         <source>it names no application</source>
-        <translation type="unfinished"></translation>
+        <translation>sie nennt keine Anwendung</translation>
     </message>
     <message>
         <source>it names no version</source>
-        <translation type="unfinished"></translation>
+        <translation>sie nennt keine Version</translation>
     </message>
     <message>
         <source>New version found</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Version gefunden</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Herunterladen</translation>
     </message>
     <message>
         <source>No new version found</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine neue Version gefunden</translation>
     </message>
     <message>
         <source>No new version available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine neue Version.</translation>
     </message>
     <message>
         <source>it declares entities or attributes of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>sie vereinbart eigene Entitäten oder Attribute</translation>
     </message>
     <message>
         <source>it has too many attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>sie hat zu viele Attribute</translation>
     </message>
     <message>
         <source>its encoding is not UTF-8 or UTF-16</source>
-        <translation type="unfinished"></translation>
+        <translation>ihre Kodierung ist weder UTF-8 noch UTF-16</translation>
     </message>
     <message>
         <source>not well-formed XML, line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>kein wohlgeformtes XML, Zeile %1: %2</translation>
     </message>
     <message>
         <source>the entity %1 is not declared</source>
-        <translation type="unfinished"></translation>
+        <translation>die Entität %1 ist nicht vereinbart</translation>
     </message>
 </context>
 </TS>

@@ -5,119 +5,119 @@
     <name>AppController</name>
     <message>
         <source>changes that are not saved are kept in this folder, and nothing else</source>
-        <translation type="unfinished"></translation>
+        <translation>ce dossier garde les modifications non enregistrées, et rien d&apos;autre</translation>
     </message>
 </context>
 <context>
     <name>ChartPicture</name>
     <message>
         <source>there is not enough memory for a picture of this size</source>
-        <translation type="unfinished"></translation>
+        <translation>la mémoire ne suffit pas pour une image de cette taille</translation>
     </message>
     <message>
         <source>the picture cannot be encoded</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;image ne peut pas être codée</translation>
     </message>
     <message>
         <source>a picture is at least one unit wide and high</source>
-        <translation type="unfinished"></translation>
+        <translation>une image a au moins une unité de large et de haut</translation>
     </message>
     <message>
         <source>pictures end with .%1</source>
-        <translation type="unfinished"></translation>
+        <translation>les images se terminent par .%1</translation>
     </message>
 </context>
 <context>
     <name>DocumentFile</name>
     <message>
         <source>another program has it open</source>
-        <translation type="unfinished"></translation>
+        <translation>un autre programme l&apos;a ouvert</translation>
     </message>
     <message>
         <source>%1 has it open (process %2 on %3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 l&apos;a ouvert (processus %2 sur %3)</translation>
     </message>
     <message>
         <source>it is too large: %1 bytes, at most %2 are read</source>
-        <translation type="unfinished"></translation>
+        <translation>il est trop grand : %1 octets, %2 au plus sont lus</translation>
     </message>
     <message>
         <source>no backup can be kept: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune copie de secours ne peut être gardée : %1</translation>
     </message>
     <message>
         <source>another program has changed it meanwhile</source>
-        <translation type="unfinished"></translation>
+        <translation>un autre programme l&apos;a modifié entre-temps</translation>
     </message>
 </context>
 <context>
     <name>DocumentRecovery</name>
     <message>
         <source>its file is gone</source>
-        <translation type="unfinished"></translation>
+        <translation>son fichier a disparu</translation>
     </message>
     <message>
         <source>its file has been changed since</source>
-        <translation type="unfinished"></translation>
+        <translation>son fichier a été modifié</translation>
     </message>
     <message>
         <source>another program has taken it meanwhile</source>
-        <translation type="unfinished"></translation>
+        <translation>un autre programme l&apos;a pris entre-temps</translation>
     </message>
     <message>
         <source>the document is open and has changes that are not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>le document est ouvert et a des modifications non enregistrées</translation>
     </message>
     <message>
         <source>%1: folders cannot be locked there</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : les dossiers ne peuvent pas y être verrouillés</translation>
     </message>
     <message>
         <source>%1 is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est endommagé</translation>
     </message>
     <message>
         <source>%1 cannot be removed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas être supprimé</translation>
     </message>
 </context>
 <context>
     <name>ExportFormat</name>
     <message>
         <source>Activity for devices and services (FIT)</source>
-        <translation type="unfinished"></translation>
+        <translation>Activité pour appareils et services (FIT)</translation>
     </message>
     <message>
         <source>FIT knows no dates before %1, and the tour starts at %2</source>
-        <translation type="unfinished"></translation>
+        <translation>FIT ne connaît pas de dates avant %1, et la sortie commence le %2</translation>
     </message>
     <message>
         <source>FIT knows no dates after %1, and the tour ends at %2</source>
-        <translation type="unfinished"></translation>
+        <translation>FIT ne connaît pas de dates après %1, et la sortie finit le %2</translation>
     </message>
     <message>
         <source>Report for the browser (HTML)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport pour le navigateur (HTML)</translation>
     </message>
     <message>
         <source>All values, for programs (JSON)</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les valeurs, pour programmes (JSON)</translation>
     </message>
     <message>
         <source>All samples as a table (CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les mesures en tableau (CSV)</translation>
     </message>
     <message>
         <source>A table of the tours, a line for each (CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableau des sorties, une ligne chacune (CSV)</translation>
     </message>
     <message>
         <source>Training Center (TCX)</source>
-        <translation type="unfinished"></translation>
+        <translation>Training Center (TCX)</translation>
     </message>
     <message>
         <source>it can tell of the years 1 to 9999 only, and a tour has the date %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ce format ne connaît que les années 1 à 9999, et une sortie est du %1</translation>
     </message>
 </context>
 <context>
@@ -125,135 +125,139 @@
     <message>
         <source>en</source>
         <comment>code of the language that all this is translated to</comment>
-        <translation type="unfinished"></translation>
+        <translation>fr</translation>
     </message>
 </context>
 <context>
     <name>MenuEntries</name>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Préférences…</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Manuel</translation>
     </message>
 </context>
 <context>
     <name>MyDocument</name>
     <message>
         <source>&quot;%1&quot; is no list</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas une liste</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no dictionary</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas un dictionnaire</translation>
     </message>
     <message>
         <source>an archive, but not of a tour library</source>
-        <translation type="unfinished"></translation>
+        <translation>une archive, mais pas d&apos;une collection de sorties</translation>
     </message>
     <message>
         <source>not a tour library: &quot;%1&quot; is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>pas une collection de sorties : « %1 » manque</translation>
     </message>
     <message>
         <source>not a readable document: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>pas un document lisible : %1</translation>
     </message>
     <message>
         <source>the document has no file yet</source>
-        <translation type="unfinished"></translation>
+        <translation>le document n&apos;a pas encore de fichier</translation>
     </message>
     <message>
         <source>it was opened for reading only</source>
-        <translation type="unfinished"></translation>
+        <translation>il a été ouvert en lecture seule</translation>
     </message>
 </context>
 <context>
     <name>OdoData</name>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;est un dossier</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>not a raw dump: %1 bytes, a dump has no more than %2</source>
-        <translation type="unfinished"></translation>
+        <translation>pas des données brutes : %1 octets, elles en ont au plus %2</translation>
     </message>
     <message>
         <source>not a raw dump: %1 bytes, at least %2 are needed</source>
-        <translation type="unfinished"></translation>
+        <translation>pas des données brutes : %1 octets, il en faut au moins %2</translation>
     </message>
     <message>
         <source>not a raw dump: it does not begin with &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>pas des données brutes : le début n&apos;est pas « %1 »</translation>
     </message>
     <message>
         <source>not a raw dump: no record and no hexadecimal digits at byte %1</source>
-        <translation type="unfinished"></translation>
+        <translation>pas des données brutes : ni enregistrement ni chiffres hexadécimaux à l&apos;octet %1</translation>
     </message>
 </context>
 <context>
     <name>OdoTour</name>
     <message>
         <source>date changed</source>
-        <translation type="unfinished"></translation>
+        <translation>modifier la date</translation>
     </message>
     <message>
         <source>change title</source>
-        <translation type="unfinished"></translation>
+        <translation>modifier le titre</translation>
     </message>
     <message>
         <source>change description</source>
-        <translation type="unfinished"></translation>
+        <translation>modifier la description</translation>
     </message>
     <message>
         <source>tour removed</source>
-        <translation type="unfinished"></translation>
+        <translation>supprimer la sortie</translation>
     </message>
     <message>
         <source>a start value of a tour is no whole number of 32 bits</source>
-        <translation type="unfinished"></translation>
+        <translation>une valeur de départ d&apos;une sortie n&apos;est pas un entier de 32 bits</translation>
     </message>
     <message>
         <source>a tour is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>une sortie manque</translation>
     </message>
     <message>
         <source>a tour is stored in version %1, which this program does not know</source>
-        <translation type="unfinished"></translation>
+        <translation>une sortie est enregistrée en version %1, que ce programme ne connaît pas</translation>
     </message>
     <message>
         <source>the recording of a tour is missing or damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;enregistrement d&apos;une sortie manque ou est endommagé</translation>
     </message>
     <message>
         <source>the title of a tour is missing or damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>le titre d&apos;une sortie manque ou est endommagé</translation>
     </message>
     <message>
         <source>the description of a tour is missing or damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>la description d&apos;une sortie manque ou est endommagée</translation>
     </message>
     <message>
         <source>the removed mark of a tour is missing or damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>la marque « supprimée » d&apos;une sortie manque ou est endommagée</translation>
     </message>
     <message>
         <source>the start of a tour is missing or damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>le départ d&apos;une sortie manque ou est endommagé</translation>
     </message>
     <message>
         <source>the byte order of a tour is missing or damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;ordre des octets d&apos;une sortie manque ou est endommagé</translation>
     </message>
 </context>
 <context>
@@ -261,77 +265,77 @@
     <message>
         <source>%1 %2</source>
         <comment>month and year</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Week %1, %2</source>
         <comment>number and year</comment>
-        <translation type="unfinished"></translation>
+        <translation>Semaine %1, %2</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout</translation>
     </message>
 </context>
 <context>
     <name>PeriodReport</name>
     <message>
         <source>Tours</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorties</translation>
     </message>
     <message>
         <source>Removed tours are not counted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les sorties supprimées ne sont pas comptées.</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée</translation>
     </message>
     <message>
         <source>Elevation gain (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dénivelé positif (%1)</translation>
     </message>
     <message>
         <source>Average speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse moyenne</translation>
     </message>
     <message>
         <source>Highest speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse maximale</translation>
     </message>
     <message>
         <source>Average pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Pouls moyen</translation>
     </message>
     <message>
         <source>(removed)</source>
-        <translation type="unfinished"></translation>
+        <translation>(supprimée)</translation>
     </message>
     <message>
         <source>Back to the list of tours</source>
-        <translation type="unfinished"></translation>
+        <translation>Retour à la liste des sorties</translation>
     </message>
     <message numerus="yes">
         <source>%Ln tour(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln sortie</numerusform>
+            <numerusform>%Ln sorties</numerusform>
         </translation>
     </message>
 </context>
@@ -339,113 +343,113 @@
     <name>PortProblem</name>
     <message>
         <source>permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>accès refusé</translation>
     </message>
     <message>
         <source>permission denied. Add yourself to the group %1 (sudo usermod -aG %1 $USER), then log out and in again</source>
-        <translation type="unfinished"></translation>
+        <translation>accès refusé. Ajoutez-vous au groupe %1 (sudo usermod -aG %1 $USER), puis fermez la session et ouvrez-la de nouveau</translation>
     </message>
     <message>
         <source>%1 of %2 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 octets sur %2</translation>
     </message>
     <message>
         <source>a folder, not a serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>un dossier, pas un port série</translation>
     </message>
     <message>
         <source>not a serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>pas un port série</translation>
     </message>
     <message>
         <source>there is no such port</source>
-        <translation type="unfinished"></translation>
+        <translation>ce port n&apos;existe pas</translation>
     </message>
     <message>
         <source>in use by another program</source>
-        <translation type="unfinished"></translation>
+        <translation>un autre programme l&apos;utilise</translation>
     </message>
     <message>
         <source>a transfer from it is under way</source>
-        <translation type="unfinished"></translation>
+        <translation>un transfert de ce port est en cours</translation>
     </message>
     <message>
         <source>the port does not answer</source>
-        <translation type="unfinished"></translation>
+        <translation>le port ne répond pas</translation>
     </message>
     <message>
         <source>the port cannot be set to 9,600 bit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>le port ne peut pas être réglé sur 9 600 bit/s</translation>
     </message>
     <message>
         <source>the port was closed or unplugged before anything arrived</source>
-        <translation type="unfinished"></translation>
+        <translation>le port a été fermé ou débranché avant que rien n&apos;arrive</translation>
     </message>
     <message>
         <source>the port was closed or unplugged after %1</source>
-        <translation type="unfinished"></translation>
+        <translation>le port a été fermé ou débranché après %1</translation>
     </message>
     <message>
         <source>stopped before anything arrived</source>
-        <translation type="unfinished"></translation>
+        <translation>arrêté avant que rien n&apos;arrive</translation>
     </message>
     <message>
         <source>stopped after %1</source>
-        <translation type="unfinished"></translation>
+        <translation>arrêté après %1</translation>
     </message>
     <message>
         <source>nothing arrived within %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>rien n&apos;est arrivé en %1 s</translation>
     </message>
     <message>
         <source>the device fell silent after %1: nothing for %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;appareil s&apos;est tu après %1 : rien pendant %2 s</translation>
     </message>
 </context>
 <context>
     <name>ReadoutHtml</name>
     <message>
         <source>Point at the chart, or use the arrow keys in it, to see the values there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pointez le graphique, ou utilisez-y les flèches du clavier, pour voir les valeurs.</translation>
     </message>
 </context>
 <context>
     <name>SampleTexts</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance</translation>
     </message>
     <message>
         <source>Altitude (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Altitude (%1)</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse</translation>
     </message>
     <message>
         <source>Pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Pouls</translation>
     </message>
     <message>
         <source>Power (W)</source>
-        <translation type="unfinished"></translation>
+        <translation>Puissance (W)</translation>
     </message>
     <message>
         <source>Grade (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pente (%)</translation>
     </message>
     <message>
         <source>Temperature (°C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Température (°C)</translation>
     </message>
     <message>
         <source>Cadence</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadence</translation>
     </message>
 </context>
 <context>
@@ -453,832 +457,842 @@
     <message>
         <source>Chart over %1: %2</source>
         <comment>x quantity, series</comment>
-        <translation type="unfinished"></translation>
+        <translation>Graphique selon %1 : %2</translation>
     </message>
 </context>
 <context>
     <name>StatBars</name>
     <message>
         <source>No tours</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune sortie</translation>
     </message>
     <message>
         <source>Statistics %1 %2</source>
         <comment>period and quantity</comment>
-        <translation type="unfinished"></translation>
+        <translation>Statistiques %1 %2</translation>
     </message>
 </context>
 <context>
     <name>StatQuantity</name>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Elevation Gain</source>
-        <translation type="unfinished"></translation>
+        <translation>Dénivelé positif</translation>
     </message>
     <message>
         <source>Heart Beats</source>
-        <translation type="unfinished"></translation>
+        <translation>Battements</translation>
     </message>
 </context>
 <context>
     <name>StatValues</name>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée</translation>
     </message>
     <message>
         <source>Elevation gain</source>
-        <translation type="unfinished"></translation>
+        <translation>Dénivelé positif</translation>
     </message>
     <message>
         <source>Average speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse moyenne</translation>
     </message>
     <message>
         <source>Highest speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse maximale</translation>
     </message>
     <message>
         <source>Average pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Pouls moyen</translation>
     </message>
     <message>
         <source>Highest pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Pouls maximal</translation>
     </message>
     <message>
         <source>Heart beats</source>
-        <translation type="unfinished"></translation>
+        <translation>Battements</translation>
     </message>
     <message>
         <source>Average grade uphill</source>
-        <translation type="unfinished"></translation>
+        <translation>Pente moyenne en montée</translation>
     </message>
     <message>
         <source>Average grade downhill</source>
-        <translation type="unfinished"></translation>
+        <translation>Pente moyenne en descente</translation>
     </message>
     <message>
         <source>First tour</source>
-        <translation type="unfinished"></translation>
+        <translation>Première sortie</translation>
     </message>
     <message>
         <source>Last tour</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière sortie</translation>
     </message>
 </context>
 <context>
     <name>TourColumns</name>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée</translation>
     </message>
     <message>
         <source>Elevation Gain (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dénivelé (%1)</translation>
     </message>
     <message>
         <source>Average Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse moyenne</translation>
     </message>
     <message>
         <source>Max Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse maxi</translation>
     </message>
     <message>
         <source>Average Pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Pouls moyen</translation>
     </message>
     <message>
         <source>Max Pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Pouls maxi</translation>
     </message>
     <message>
         <source>Moving Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse en roulant</translation>
     </message>
     <message>
         <source>Climbs</source>
-        <translation type="unfinished"></translation>
+        <translation>Montées</translation>
     </message>
     <message>
         <source>Max Grade (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pente max. (%)</translation>
     </message>
     <message>
         <source>Power (W)</source>
-        <translation type="unfinished"></translation>
+        <translation>Puissance (W)</translation>
     </message>
     <message>
         <source>Temperature (°C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Température (°C)</translation>
     </message>
 </context>
 <context>
     <name>TourExport</name>
     <message>
         <source>it is a link that leads nowhere</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;est un lien qui ne mène nulle part</translation>
     </message>
     <message>
         <source>it is there already</source>
-        <translation type="unfinished"></translation>
+        <translation>il existe déjà</translation>
     </message>
     <message>
         <source>it holds tours, which an export would replace</source>
-        <translation type="unfinished"></translation>
+        <translation>il contient des sorties, qu&apos;une exportation remplacerait</translation>
     </message>
 </context>
 <context>
     <name>TourPage</name>
     <message>
         <source>it holds tours, which a page would replace</source>
-        <translation type="unfinished"></translation>
+        <translation>il contient des sorties, qu&apos;une page remplacerait</translation>
     </message>
     <message>
         <source>the page cannot be drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>la page ne peut pas être dessinée</translation>
     </message>
     <message>
         <source>%1 was not printed: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;a pas été imprimé : %2.</translation>
     </message>
     <message>
         <source>The printer %1 does not take the page.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;imprimante %1 ne prend pas la page.</translation>
     </message>
 </context>
 <context>
     <name>TourReport</name>
     <message>
         <source>The tour has no samples.</source>
-        <translation type="unfinished"></translation>
+        <translation>La sortie n&apos;a pas de mesures.</translation>
     </message>
     <message>
         <source>This tour is removed from its document.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette sortie est supprimée de son document.</translation>
     </message>
 </context>
 <context>
     <name>TourSummary</name>
     <message>
         <source>Tour</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortie</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse</translation>
     </message>
     <message>
         <source>Climbing</source>
-        <translation type="unfinished"></translation>
+        <translation>En montée</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>En descente</translation>
     </message>
     <message>
         <source>Pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Pouls</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Puissance</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>Température</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne</translation>
     </message>
     <message>
         <source>Average while moving</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne en roulant</translation>
     </message>
     <message>
         <source>Highest</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Elevation gain (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dénivelé positif (%1)</translation>
     </message>
     <message>
         <source>Altitude at the end (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Altitude à la fin (%1)</translation>
     </message>
     <message>
         <source>Climbs</source>
-        <translation type="unfinished"></translation>
+        <translation>Montées</translation>
     </message>
     <message>
         <source>Longest climb</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus longue montée</translation>
     </message>
     <message>
         <source>Average climb</source>
-        <translation type="unfinished"></translation>
+        <translation>Montée moyenne</translation>
     </message>
     <message>
         <source>Average grade</source>
-        <translation type="unfinished"></translation>
+        <translation>Pente moyenne</translation>
     </message>
     <message>
         <source>Steepest grade</source>
-        <translation type="unfinished"></translation>
+        <translation>Pente la plus raide</translation>
     </message>
     <message>
         <source>Steepest angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Angle le plus raide</translation>
     </message>
     <message>
         <source>Descents</source>
-        <translation type="unfinished"></translation>
+        <translation>Descentes</translation>
     </message>
     <message>
         <source>Longest descent</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus longue descente</translation>
     </message>
     <message>
         <source>Lowest</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum</translation>
     </message>
 </context>
 <context>
     <name>TypedStreamReader</name>
     <message>
         <source>reference to an entry of another kind</source>
-        <translation type="unfinished"></translation>
+        <translation>référence à une entrée d&apos;un autre genre</translation>
     </message>
     <message>
         <source>%1 at byte %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à l&apos;octet %2</translation>
     </message>
     <message>
         <source>archives of more than 1 GiB are not read</source>
-        <translation type="unfinished"></translation>
+        <translation>les archives de plus de 1 Gio ne sont pas lues</translation>
     </message>
     <message>
         <source>no typed stream</source>
-        <translation type="unfinished"></translation>
+        <translation>pas un flux typé</translation>
     </message>
     <message>
         <source>typed stream of unknown version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>flux typé de version inconnue %1</translation>
     </message>
     <message>
         <source>what it holds takes more than %1 MiB of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>le contenu demande plus de %1 Mio de mémoire</translation>
     </message>
     <message>
         <source>%1 bytes wanted, %2 left</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 octets attendus, %2 restants</translation>
     </message>
     <message>
         <source>an integer expected, not the mark 0x%1</source>
-        <translation type="unfinished"></translation>
+        <translation>un entier attendu, pas la marque 0x%1</translation>
     </message>
     <message>
         <source>the integer %1 does not fit its type</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;entier %1 ne tient pas dans son type</translation>
     </message>
     <message>
         <source>negative length %1</source>
-        <translation type="unfinished"></translation>
+        <translation>longueur négative %1</translation>
     </message>
     <message>
         <source>reference to an entry that is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>référence à une entrée qui n&apos;existe pas</translation>
     </message>
     <message>
         <source>a text expected</source>
-        <translation type="unfinished"></translation>
+        <translation>un texte attendu</translation>
     </message>
     <message>
         <source>a chain of more than 64 classes</source>
-        <translation type="unfinished"></translation>
+        <translation>une chaîne de plus de 64 classes</translation>
     </message>
     <message>
         <source>no class name</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de nom de classe</translation>
     </message>
     <message>
         <source>more than 65,536 classes</source>
-        <translation type="unfinished"></translation>
+        <translation>plus de 65 536 classes</translation>
     </message>
     <message>
         <source>no type string of values that can be read</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de description de type de valeurs lisibles</translation>
     </message>
     <message>
         <source>the end of an object that was not begun</source>
-        <translation type="unfinished"></translation>
+        <translation>la fin d&apos;un objet qui n&apos;a pas commencé</translation>
     </message>
     <message>
         <source>an object without a class</source>
-        <translation type="unfinished"></translation>
+        <translation>un objet sans classe</translation>
     </message>
     <message>
         <source>objects nested more than 200 deep</source>
-        <translation type="unfinished"></translation>
+        <translation>plus de 200 objets imbriqués</translation>
     </message>
     <message>
         <source>an object that contains itself</source>
-        <translation type="unfinished"></translation>
+        <translation>un objet qui se contient lui-même</translation>
     </message>
     <message>
         <source>an object expected</source>
-        <translation type="unfinished"></translation>
+        <translation>un objet attendu</translation>
     </message>
     <message>
         <source>a value expected</source>
-        <translation type="unfinished"></translation>
+        <translation>une valeur attendue</translation>
     </message>
     <message>
         <source>references to the same objects over and over again</source>
-        <translation type="unfinished"></translation>
+        <translation>des références aux mêmes objets sans cesse répétées</translation>
     </message>
     <message>
         <source>an integer expected</source>
-        <translation type="unfinished"></translation>
+        <translation>un entier attendu</translation>
     </message>
     <message>
         <source>bytes expected</source>
-        <translation type="unfinished"></translation>
+        <translation>des octets attendus</translation>
     </message>
     <message>
         <source>a C string expected</source>
-        <translation type="unfinished"></translation>
+        <translation>une chaîne C attendue</translation>
     </message>
     <message>
         <source>a data block of %1 bytes that says %2</source>
-        <translation type="unfinished"></translation>
+        <translation>un bloc de données de %1 octets qui en annonce %2</translation>
     </message>
     <message>
         <source>%1 elements do not fit into %2 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 éléments ne tiennent pas dans %2 octets</translation>
     </message>
     <message>
         <source>the list ends after %1 of %2 elements</source>
-        <translation type="unfinished"></translation>
+        <translation>la liste finit après %1 éléments sur %2</translation>
     </message>
     <message>
         <source>a data block of %1 bytes expected</source>
-        <translation type="unfinished"></translation>
+        <translation>un bloc de données de %1 octets attendu</translation>
     </message>
 </context>
 <context>
     <name>WholeFile</name>
     <message>
         <source>nothing can be written in its folder: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>rien ne peut être écrit dans son dossier : %1</translation>
     </message>
     <message>
         <source>it is there already</source>
-        <translation type="unfinished"></translation>
+        <translation>il existe déjà</translation>
     </message>
     <message>
         <source>no file can have this name</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun fichier ne peut porter ce nom</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;est un dossier</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>it is a link that leads nowhere</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;est un lien qui ne mène nulle part</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Keeps the tours of a cycle computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Garde les sorties d&apos;un compteur de vélo.</translation>
     </message>
     <message>
         <source>What of the log is written: none, errors or trace.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est écrit du journal : none, errors ou trace.</translation>
     </message>
     <message>
         <source>Starts with the simulated device plugged in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarre avec l&apos;appareil simulé branché.</translation>
     </message>
     <message>
         <source>Where newer versions are looked for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où les versions plus récentes sont cherchées.</translation>
     </message>
     <message>
         <source>Documents to open and raw dumps to import.</source>
-        <translation type="unfinished"></translation>
+        <translation>Documents à ouvrir et données brutes à importer.</translation>
     </message>
 </context>
 <context>
     <name>ridelog::AltitudeRange</name>
     <message>
         <source>&amp;Altitudes from</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt&amp;itudes de</translation>
     </message>
     <message>
         <source>Lowest altitude of the chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Altitude la plus basse du graphique</translation>
     </message>
     <message>
         <source>Highest altitude of the chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Altitude la plus haute du graphique</translation>
     </message>
     <message>
         <source>to</source>
-        <translation type="unfinished"></translation>
+        <translation>à</translation>
     </message>
     <message>
         <source>“%1” is no altitude. Write a number, like 850.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n&apos;est pas une altitude. Écrivez un nombre, comme 850.</translation>
     </message>
     <message>
         <source>“%1” is out of range. It has to be between %2 and %3 %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est hors limites. Il faut une valeur entre %2 et %3 %4.</translation>
     </message>
 </context>
 <context>
     <name>ridelog::ApplicationWindows</name>
     <message>
         <source>a document without a name</source>
-        <translation type="unfinished"></translation>
+        <translation>un document sans nom</translation>
     </message>
     <message>
         <source>Changes that are not saved cannot be kept aside: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Les modifications non enregistrées ne peuvent pas être mises de côté : %1</translation>
     </message>
     <message numerus="yes">
         <source>The document as it was on %1, with %Ln tour(s), was kept.</source>
         <comment>date</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Le document tel qu&apos;il était le %1, avec %Ln sortie, a été gardé.</numerusform>
+            <numerusform>Le document tel qu&apos;il était le %1, avec %Ln sorties, a été gardé.</numerusform>
         </translation>
     </message>
     <message>
         <source>Meanwhile %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entre-temps, %1.</translation>
     </message>
     <message>
         <source>ridelog ended before %1 was saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>ridelog s&apos;est arrêté avant que %1 soit enregistré.</translation>
     </message>
     <message>
         <source>&amp;Recover</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Récupérer</translation>
     </message>
     <message>
         <source>&amp;Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abandonner</translation>
     </message>
     <message>
         <source>Ask Me &amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Plus tard</translation>
     </message>
     <message>
         <source>What ridelog kept of %1 could not be recovered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que ridelog a gardé de %1 n&apos;a pas pu être récupéré.</translation>
     </message>
     <message>
         <source>%1
 
 It is in %2, and stays there until it is discarded.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+
+C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</translation>
     </message>
     <message>
         <source>&amp;Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Garder</translation>
     </message>
     <message>
         <source>What was kept of %1 was not discarded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui a été gardé de %1 n&apos;a pas été abandonné.</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>Tours (*.%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorties (*.%1)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>%1 could not be opened: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;a pas pu être ouvert : %2</translation>
     </message>
     <message>
         <source>The download address “%1” could not be opened in a browser.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;adresse de téléchargement « %1 » n&apos;a pas pu être ouverte dans un navigateur.</translation>
     </message>
     <message>
         <source>Newer versions could not be looked for: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Les versions plus récentes n&apos;ont pas pu être cherchées : %1</translation>
     </message>
     <message>
         <source>Looking for newer versions…</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche de versions plus récentes…</translation>
     </message>
 </context>
 <context>
     <name>ridelog::BarChartView</name>
     <message>
         <source>Bar chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphique à barres</translation>
     </message>
 </context>
 <context>
     <name>ridelog::ChartArrayView</name>
     <message>
         <source>Chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphique</translation>
     </message>
 </context>
 <context>
     <name>ridelog::ConnectView</name>
     <message>
         <source>&amp;Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Connecter</translation>
     </message>
     <message>
         <source>Serial port</source>
-        <translation type="unfinished"></translation>
+        <translation>Port série</translation>
     </message>
     <message>
         <source>Progress of the transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression du transfert</translation>
     </message>
     <message>
         <source>Press Connect, wait for the line above to say that it is waiting, and then start sending from the device&apos;s own menu. A transfer takes about 85 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyez sur Connecter, attendez que la ligne ci-dessus dise qu&apos;elle attend, puis lancez l&apos;envoi depuis le menu de l&apos;appareil. Un transfert dure environ 85 secondes.</translation>
     </message>
     <message>
         <source>Serial &amp;port:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Port série :</translation>
     </message>
     <message>
         <source>Simulated device (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Appareil simulé (%1)</translation>
     </message>
     <message>
         <source>No serial port found</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun port série trouvé</translation>
+    </message>
+    <message>
+        <source>Trou&amp;ble with the Port…</source>
+        <translation>Pro&amp;blèmes de port…</translation>
     </message>
 </context>
 <context>
     <name>ridelog::DescriptionEdit</name>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Description</translation>
     </message>
 </context>
 <context>
     <name>ridelog::DescriptionLoader</name>
     <message>
         <source>the server answers %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur répond %1 %2</translation>
     </message>
     <message>
         <source>this build of ridelog has no address to look for updates at</source>
-        <translation type="unfinished"></translation>
+        <translation>cette version de ridelog n&apos;a pas d&apos;adresse où chercher des mises à jour</translation>
     </message>
     <message>
         <source>not an address of the web (http, https) or of a file</source>
-        <translation type="unfinished"></translation>
+        <translation>ni une adresse du web (http, https) ni celle d&apos;un fichier</translation>
     </message>
     <message>
         <source>larger than %1 MiB</source>
-        <translation type="unfinished"></translation>
+        <translation>plus grand que %1 Mio</translation>
     </message>
     <message>
         <source>it took longer than %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>cela a duré plus de %1 s</translation>
     </message>
 </context>
 <context>
     <name>ridelog::EmptyDocumentView</name>
     <message>
         <source>No tours yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore de sorties</translation>
     </message>
     <message>
         <source>Take them from your cycle computer, or import a raw dump of its memory. You can also drop a dump on this window.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prenez-les de votre compteur de vélo, ou importez les données brutes de sa mémoire. Vous pouvez aussi déposer un fichier sur cette fenêtre.</translation>
     </message>
     <message>
         <source>Connect De&amp;vice</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecter l&apos;appa&amp;reil</translation>
     </message>
     <message>
         <source>&amp;Import Dump…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importer des données…</translation>
     </message>
 </context>
 <context>
     <name>ridelog::ExportPanel</name>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter</translation>
     </message>
     <message>
         <source>Selected tours (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorties choisies (%1)</translation>
     </message>
     <message>
         <source>All tours (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les sorties (%1)</translation>
     </message>
     <message>
         <source>&amp;Tours:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sorties :</translation>
     </message>
     <message>
         <source>&amp;Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Format :</translation>
     </message>
     <message>
         <source>C&amp;hoose…</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;hoisir…</translation>
     </message>
     <message>
         <source>Fo&amp;lder:</source>
-        <translation type="unfinished"></translation>
+        <translation>Doss&amp;ier :</translation>
     </message>
     <message>
         <source>&amp;All tours in one file</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Toutes les sorties en un fichier</translation>
     </message>
     <message>
         <source>&amp;Export</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exporter</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>Choose Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un dossier</translation>
     </message>
     <message numerus="yes">
         <source>%Ln file(s), such as %1</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln fichier, comme %1</numerusform>
+            <numerusform>%Ln fichiers, comme %1</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 et %2 de plus</translation>
     </message>
     <message>
         <source>Replace %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer %1 ?</translation>
     </message>
     <message numerus="yes">
         <source>Replace %Ln file(s)?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Remplacer %Ln fichier ?</numerusform>
+            <numerusform>Remplacer %Ln fichiers ?</numerusform>
         </translation>
     </message>
     <message>
         <source>It is in %1 already. What it holds is lost then.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il est déjà dans %1. Son contenu sera perdu.</translation>
     </message>
     <message>
         <source>In %1 there are already %2. What they hold is lost then.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans %1 il y a déjà %2. Leur contenu sera perdu.</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Remplacer</translation>
     </message>
     <message>
         <source>Another export is under way. Try again when it has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une autre exportation est en cours. Réessayez quand elle sera finie.</translation>
     </message>
     <message>
         <source>Export cancelled: nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportation annulée : rien n&apos;a été écrit.</translation>
     </message>
     <message numerus="yes">
         <source>Export cancelled: %1 of %Ln file(s) were written.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Exportation annulée : %1 fichier sur %Ln a été écrit.</numerusform>
+            <numerusform>Exportation annulée : %1 fichiers sur %Ln ont été écrits.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln tour(s) exported as %1.</source>
         <comment>name of a file</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln sortie exportée : %1.</numerusform>
+            <numerusform>%Ln sorties exportées : %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln tour(s) exported to %1.</source>
         <comment>name of a folder</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln sortie exportée dans %1.</numerusform>
+            <numerusform>%Ln sorties exportées dans %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln file(s) were written.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln fichier a été écrit.</numerusform>
+            <numerusform>%Ln fichiers ont été écrits.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2</translation>
     </message>
     <message numerus="yes">
         <source>%Ln file(s) could not be written: %1</source>
         <comment>list of files and reasons</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln fichier n&apos;a pas pu être écrit : %1</numerusform>
+            <numerusform>%Ln fichiers n&apos;ont pas pu être écrits : %1</numerusform>
         </translation>
     </message>
     <message>
         <source>Save Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le rapport</translation>
     </message>
     <message>
         <source>Reports (*.%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapports (*.%1)</translation>
+    </message>
+    <message>
+        <source>Hel&amp;p</source>
+        <translation>Ai&amp;de</translation>
     </message>
 </context>
 <context>
     <name>ridelog::ExportProgress</name>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter</translation>
     </message>
     <message>
         <source>Exported tours</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorties exportées</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %Ln tour(s)</source>
         <comment>number of tours done</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 sur %Ln sortie</numerusform>
+            <numerusform>%1 sur %Ln sorties</numerusform>
         </translation>
     </message>
 </context>
@@ -1286,452 +1300,542 @@ It is in %2, and stays there until it is discarded.</source>
     <name>ridelog::FolderField</name>
     <message>
         <source>Say in which folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indiquez un dossier.</translation>
     </message>
     <message>
         <source>%1 is not a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;est pas un dossier.</translation>
     </message>
     <message>
         <source>You may not write in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous ne pouvez pas écrire dans %1.</translation>
     </message>
 </context>
 <context>
     <name>ridelog::MainWindowController</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nouveau</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir…</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>Documents &amp;récents</translation>
     </message>
     <message>
         <source>&amp;Import Dump…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importer des données…</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exporter…</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregi&amp;strer</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer so&amp;us…</translation>
     </message>
     <message>
         <source>Re&amp;vert</source>
-        <translation type="unfinished"></translation>
+        <translation>Ré&amp;tablir</translation>
     </message>
     <message>
         <source>&amp;Print…</source>
-        <translation type="unfinished"></translation>
+        <translation>I&amp;mprimer…</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Édition</translation>
     </message>
     <message>
         <source>Re&amp;move Tour</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Supprimer la sortie</translation>
     </message>
     <message>
         <source>Re&amp;store Tour</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;estaurer la sortie</translation>
     </message>
     <message>
         <source>S&amp;how Removed Tours</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voir les supprimées</translation>
     </message>
     <message>
         <source>&amp;Find</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;hercher</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout sélectionner</translation>
     </message>
     <message>
         <source>Un&amp;its</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Unités</translation>
     </message>
     <message>
         <source>&amp;Miles, mph and Feet</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Milles, mph et pieds</translation>
     </message>
     <message>
         <source>&amp;Kilometres, km/h and Metres</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kilomètres, km/h et mètres</translation>
     </message>
     <message>
         <source>&amp;Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Colonnes</translation>
     </message>
     <message>
         <source>Sort &amp;By</source>
-        <translation type="unfinished"></translation>
+        <translation>Tr&amp;ier par</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Préférences…</translation>
     </message>
     <message>
         <source>&amp;Tour</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sortie</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir</translation>
     </message>
     <message>
         <source>Open Tour</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir la sortie</translation>
     </message>
     <message>
         <source>Edit &amp;Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier le &amp;titre</translation>
     </message>
     <message>
         <source>&amp;Device</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Appareil</translation>
     </message>
     <message>
         <source>Connect &amp;Drawer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Volet de l&apos;appareil</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation>Appareil</translation>
     </message>
     <message>
         <source>&amp;Start Transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lancer le transfert</translation>
     </message>
     <message>
         <source>S&amp;top Transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Arrêter le transfert</translation>
     </message>
     <message>
         <source>Simulated De&amp;vice</source>
-        <translation type="unfinished"></translation>
+        <translation>Appareil si&amp;mulé</translation>
     </message>
     <message>
         <source>&amp;Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;tatistiques</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ai&amp;de</translation>
     </message>
     <message>
         <source>&amp;Check for Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Chercher des mises à jour…</translation>
     </message>
     <message>
         <source>Send &amp;Feedback…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Envoyer un avis…</translation>
     </message>
     <message>
         <source>&amp;About ridelog</source>
-        <translation type="unfinished"></translation>
+        <translation>À &amp;propos de ridelog</translation>
     </message>
     <message>
         <source>Tool Bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barre d&apos;outils</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher</translation>
     </message>
     <message>
         <source>No Documents Yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore de documents</translation>
     </message>
     <message>
         <source>There is no simulated device: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas d&apos;appareil simulé : %1</translation>
     </message>
     <message>
         <source>The simulated device is plugged in. Press Connect to take its tours.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;appareil simulé est branché. Appuyez sur Connecter pour prendre ses sorties.</translation>
     </message>
     <message>
         <source>No mail program could be started. Write to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun programme de messagerie n&apos;a pu démarrer. Écrivez à %1.</translation>
     </message>
     <message>
         <source>About ridelog</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos de ridelog</translation>
     </message>
     <message>
         <source>&lt;b&gt;ridelog %1&lt;/b&gt;&lt;br&gt;Keeps the tours of a cycle computer for a lifetime.&lt;br&gt;&lt;br&gt;Free software under the MIT licence.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;ridelog %1&lt;/b&gt;&lt;br&gt;Garde les sorties d&apos;un compteur de vélo pour toute une vie.&lt;br&gt;&lt;br&gt;Logiciel libre sous licence MIT.</translation>
     </message>
     <message>
         <source>The document can only be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document ne peut être que lu : %1</translation>
     </message>
     <message>
         <source>Distance:</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance :</translation>
     </message>
     <message>
         <source>Average speed:</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse moyenne :</translation>
     </message>
     <message numerus="yes">
         <source>%Ln tour(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln sortie</numerusform>
+            <numerusform>%Ln sorties</numerusform>
         </translation>
     </message>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans nom</translation>
     </message>
     <message>
         <source>Untitled %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans nom %1</translation>
     </message>
     <message>
         <source>%1 (read-only)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (lecture seule)</translation>
     </message>
     <message>
         <source>Tours</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorties</translation>
     </message>
     <message>
         <source>There are no tours in this period.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de sorties dans cette période.</translation>
     </message>
     <message>
         <source>Import Dump</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer des données brutes</translation>
     </message>
     <message>
         <source>%1 was not imported: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;a pas été importé : %2</translation>
     </message>
     <message numerus="yes">
         <source>%1: %Ln tour(s) added, %2 already there.</source>
         <comment>file, number of tours</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 : %Ln sortie ajoutée, %2 déjà là.</numerusform>
+            <numerusform>%1 : %Ln sorties ajoutées, %2 déjà là.</numerusform>
         </translation>
     </message>
     <message>
         <source>The document can only be read (%1). Save it under another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document ne peut être que lu (%1). Enregistrez-le sous un autre nom.</translation>
     </message>
     <message>
         <source>%1 was not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;a pas été enregistré.</translation>
     </message>
     <message>
         <source>Saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistré.</translation>
     </message>
     <message>
         <source>Another program has changed %1 since you opened it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme a modifié %1 depuis que vous l&apos;avez ouvert.</translation>
     </message>
     <message>
         <source>If you overwrite it, what the other program wrote is lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si vous l&apos;écrasez, ce que l&apos;autre programme a écrit est perdu.</translation>
     </message>
     <message>
         <source>&amp;Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;craser</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer sous</translation>
     </message>
     <message>
         <source>Tours (*.%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorties (*.%1)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Saved as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistré comme %1.</translation>
     </message>
     <message>
         <source>Go back to what %1 holds?</source>
-        <translation type="unfinished"></translation>
+        <translation>Revenir à ce que contient %1 ?</translation>
     </message>
     <message>
         <source>All changes since it was saved are lost, and cannot be brought back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les modifications depuis l&apos;enregistrement sont perdues, et ne peuvent pas être retrouvées.</translation>
     </message>
     <message>
         <source>&amp;Revert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rétablir</translation>
     </message>
     <message>
         <source>The document was not reverted: it has changed since you were asked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document n&apos;a pas été rétabli : il a changé depuis la question.</translation>
     </message>
     <message>
         <source>%1 could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;a pas pu être lu.</translation>
     </message>
     <message>
         <source>The document is as it was saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document est tel qu&apos;il a été enregistré.</translation>
     </message>
     <message>
         <source>A transfer from the device is under way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un transfert de l&apos;appareil est en cours.</translation>
     </message>
     <message>
         <source>If you close the window now, it ends before the tours have arrived.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si vous fermez la fenêtre maintenant, il s&apos;arrête avant que les sorties soient arrivées.</translation>
     </message>
     <message>
         <source>&amp;Stop Transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Arrêter le transfert</translation>
     </message>
     <message>
         <source>Save the changes of %1 before it is closed?</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les modifications de %1 avant de le fermer ?</translation>
     </message>
     <message>
         <source>They are lost if you do not save them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinon elles sont perdues.</translation>
     </message>
     <message>
         <source>&amp;Don&apos;t Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ne pas enregistrer</translation>
     </message>
     <message numerus="yes">
         <source>%Ln tour(s) removed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln sortie supprimée.</numerusform>
+            <numerusform>%Ln sorties supprimées.</numerusform>
         </translation>
     </message>
     <message>
         <source>What is removed stays in the document: see Edit &gt; Show Removed Tours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est supprimé reste dans le document : voir Édition &gt; Voir les supprimées.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln tour(s) restored.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln sortie restaurée.</numerusform>
+            <numerusform>%Ln sorties restaurées.</numerusform>
         </translation>
     </message>
     <message>
         <source>; what arrived is in %1</source>
-        <translation type="unfinished"></translation>
+        <translation> ; ce qui est arrivé est dans %1</translation>
     </message>
     <message>
         <source>; what arrived could not be kept in %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation> ; ce qui est arrivé n&apos;a pas pu être gardé dans %1 : %2</translation>
     </message>
     <message>
         <source>Dis&amp;connect</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Déconnecter</translation>
     </message>
     <message>
         <source>&amp;Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Connecter</translation>
     </message>
     <message>
         <source>Disconnected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnecté.</translation>
     </message>
     <message>
         <source>Waiting for the device…</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente de l&apos;appareil…</translation>
     </message>
     <message>
         <source>There is no serial port. Plug in the device&apos;s cable, or choose Device &gt; Simulated Device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de port série. Branchez le câble de l&apos;appareil, ou choisissez Appareil &gt; Appareil simulé.</translation>
     </message>
     <message>
         <source>Cannot open %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas être ouvert : %2.</translation>
     </message>
     <message>
         <source>Transfer %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Transfert %1.</translation>
     </message>
     <message>
         <source>Receiving…</source>
-        <translation type="unfinished"></translation>
+        <translation>Réception…</translation>
     </message>
     <message>
         <source>Receiving, %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Réception, %1 %</translation>
     </message>
     <message numerus="yes">
         <source>Receiving, %1 %, %Ln second(s) left</source>
         <comment>percentage</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Réception, %1 %, encore %Ln seconde</numerusform>
+            <numerusform>Réception, %1 %, encore %Ln secondes</numerusform>
         </translation>
     </message>
     <message>
         <source>What arrived</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est arrivé</translation>
     </message>
     <message>
         <source>Broken off: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrompu : %1.</translation>
     </message>
     <message>
         <source>%1 is no dump of the device: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;est pas des données brutes de l&apos;appareil : %2</translation>
     </message>
     <message numerus="yes">
         <source>Finished: %Ln tour(s) added, %1 already there</source>
         <comment>number of tours</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Terminé : %Ln sortie ajoutée, %1 déjà là</numerusform>
+            <numerusform>Terminé : %Ln sorties ajoutées, %1 déjà là</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>ridelog::ManualPage</name>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Page du manuel</translation>
+    </message>
+</context>
+<context>
+    <name>ridelog::ManualWindow</name>
+    <message>
+        <source>Manual</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Barre d&apos;outils</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Édition</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>C&amp;hercher</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>Chercher le &amp;suivant</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>Chercher le &amp;précédent</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;Larger Letters</source>
+        <translation>Lettres plus &amp;grandes</translation>
+    </message>
+    <message>
+        <source>&amp;Smaller Letters</source>
+        <translation>Lettres plus &amp;petites</translation>
+    </message>
+    <message>
+        <source>&amp;Usual Letters</source>
+        <translation>Lettres &amp;normales</translation>
+    </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>A&amp;ller</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Retour</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>&amp;Suivant</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Sommaire</translation>
+    </message>
+    <message>
+        <source>Find on this page</source>
+        <translation>Chercher dans cette page</translation>
+    </message>
+    <message>
+        <source>“%1” is not on this page.</source>
+        <translation>« %1 » n&apos;est pas dans cette page.</translation>
     </message>
 </context>
 <context>
     <name>ridelog::MyDocument</name>
     <message numerus="yes">
         <source>adding %n tours</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ajouter %n sortie</numerusform>
+            <numerusform>ajouter %n sorties</numerusform>
         </translation>
     </message>
 </context>
@@ -1739,638 +1843,650 @@ It is in %2, and stays there until it is discarded.</source>
     <name>ridelog::PreferenceAwareFormatter</name>
     <message>
         <source>Couldn not convert  to float</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n&apos;est pas un nombre</translation>
     </message>
 </context>
 <context>
     <name>ridelog::PreferencesController</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences</translation>
     </message>
     <message>
         <source>&amp;General</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Général</translation>
     </message>
     <message>
         <source>&amp;Chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Grap&amp;hique</translation>
     </message>
     <message>
         <source>&amp;Pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pouls</translation>
     </message>
     <message>
         <source>De&amp;vice</source>
-        <translation type="unfinished"></translation>
+        <translation>App&amp;areil</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fermer</translation>
     </message>
     <message>
         <source>What you choose lasts until ridelog ends: %1 cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos choix ne durent que jusqu&apos;à la fin de ridelog : %1 ne peut pas être écrit.</translation>
     </message>
     <message>
         <source>Kilometres, km/h and metres</source>
-        <translation type="unfinished"></translation>
+        <translation>Kilomètres, km/h et mètres</translation>
     </message>
     <message>
         <source>Miles, mph and feet</source>
-        <translation type="unfinished"></translation>
+        <translation>Milles, mph et pieds</translation>
     </message>
     <message>
         <source>&amp;Units:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Unités :</translation>
     </message>
     <message>
         <source>Transfers:</source>
-        <translation type="unfinished"></translation>
+        <translation>Transferts :</translation>
     </message>
     <message>
         <source>&amp;Save the raw dump that arrives</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregi&amp;strer les données brutes reçues</translation>
     </message>
     <message>
         <source>As odoData.odo in your home folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans odoData.odo de votre dossier personnel.</translation>
     </message>
     <message>
         <source>Newer versions:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelles versions :</translation>
     </message>
     <message>
         <source>Look for them &amp;automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Les &amp;chercher automatiquement</translation>
     </message>
     <message>
         <source>Days between two looks for newer versions</source>
-        <translation type="unfinished"></translation>
+        <translation>Jours entre deux recherches de nouvelles versions</translation>
     </message>
     <message>
         <source>&amp;Every:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tous les :</translation>
     </message>
     <message>
         <source>System language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue du système</translation>
     </message>
     <message>
         <source>La&amp;nguage:</source>
-        <translation type="unfinished"></translation>
+        <translation>La&amp;ngue :</translation>
     </message>
     <message>
         <source>Counts from the next start on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prend effet au prochain démarrage.</translation>
     </message>
     <message>
         <source>Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleurs</translation>
     </message>
     <message>
         <source>Al&amp;titude:</source>
-        <translation type="unfinished"></translation>
+        <translation>Al&amp;titude :</translation>
     </message>
     <message>
         <source>Colour of the Altitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur de l&apos;altitude</translation>
     </message>
     <message>
         <source>&amp;Speed:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vitesse :</translation>
     </message>
     <message>
         <source>Colour of the Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur de la vitesse</translation>
     </message>
     <message>
         <source>P&amp;ulse:</source>
-        <translation type="unfinished"></translation>
+        <translation>Po&amp;uls :</translation>
     </message>
     <message>
         <source>Colour of the Pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du pouls</translation>
     </message>
     <message>
         <source>&amp;Below the pulse range:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sous la plage de pouls :</translation>
     </message>
     <message>
         <source>Colour below the Pulse Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur sous la plage de pouls</translation>
     </message>
     <message>
         <source>&amp;Within the pulse range:</source>
-        <translation type="unfinished"></translation>
+        <translation>Da&amp;ns la plage de pouls :</translation>
     </message>
     <message>
         <source>Colour within the Pulse Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur dans la plage de pouls</translation>
     </message>
     <message>
         <source>Ab&amp;ove the pulse range:</source>
-        <translation type="unfinished"></translation>
+        <translation>Au-d&amp;essus de la plage :</translation>
     </message>
     <message>
         <source>Colour above the Pulse Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur au-dessus de la plage de pouls</translation>
     </message>
     <message>
         <source>&amp;Reset Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rétablir les couleurs</translation>
     </message>
     <message>
         <source>Speed has an a&amp;xis of its own beside another series</source>
-        <translation type="unfinished"></translation>
+        <translation>La vitesse a son a&amp;xe à côté d&apos;une autre série</translation>
     </message>
     <message>
         <source>Lowest pulse of the range</source>
-        <translation type="unfinished"></translation>
+        <translation>Pouls le plus bas de la plage</translation>
     </message>
     <message>
         <source>Highest pulse of the range</source>
-        <translation type="unfinished"></translation>
+        <translation>Pouls le plus haut de la plage</translation>
     </message>
     <message>
         <source>&amp;to</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;à</translation>
     </message>
     <message>
         <source>beats per minute</source>
-        <translation type="unfinished"></translation>
+        <translation>battements par minute</translation>
     </message>
     <message>
         <source>&amp;Range:</source>
-        <translation type="unfinished"></translation>
+        <translation>Plag&amp;e :</translation>
     </message>
     <message>
         <source>Zones:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zones :</translation>
     </message>
     <message>
         <source>Draw them &amp;behind the pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Les dessiner derr&amp;ière le pouls</translation>
     </message>
     <message>
         <source>&amp;Fade those outside the range</source>
-        <translation type="unfinished"></translation>
+        <translation>Atténuer &amp;celles hors de la plage</translation>
     </message>
     <message>
         <source>Serial line:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne série :</translation>
     </message>
     <message>
         <source>&amp;Alternate transfer settings (two stop bits)</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres réglages (deux &amp;bits d&apos;arrêt)</translation>
     </message>
     <message>
         <source>Try them when what arrives is no dump of the device. They count from the next transfer on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Essayez-les si ce qui arrive n&apos;est pas des données brutes de l&apos;appareil. Ils prennent effet au prochain transfert.</translation>
     </message>
     <message numerus="yes">
         <source> day(s)</source>
         <comment>after the number</comment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> jour</numerusform>
+            <numerusform> jours</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ai&amp;de</translation>
     </message>
 </context>
 <context>
     <name>ridelog::PreferencesPage</name>
     <message>
         <source>Reset to &amp;Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Va&amp;leurs par défaut</translation>
     </message>
 </context>
 <context>
     <name>ridelog::SaveChartPanel</name>
     <message>
         <source>it holds tours, which a picture would replace</source>
-        <translation type="unfinished"></translation>
+        <translation>il contient des sorties, qu&apos;une image remplacerait</translation>
     </message>
     <message>
         <source>%1 was not saved: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n&apos;a pas été enregistré : %2.</translation>
     </message>
     <message>
         <source>The chart was saved as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le graphique a été enregistré comme %1.</translation>
     </message>
     <message>
         <source>Save Chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le graphique</translation>
     </message>
     <message>
         <source>Width in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur en pixels</translation>
     </message>
     <message>
         <source>Height in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur en pixels</translation>
     </message>
     <message>
         <source>&amp;Use as default size</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Utiliser comme taille par défaut</translation>
     </message>
     <message>
         <source>pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>pixels</translation>
     </message>
     <message>
         <source>Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille :</translation>
     </message>
 </context>
 <context>
     <name>ridelog::StartWindow</name>
     <message>
         <source>ridelog</source>
-        <translation type="unfinished"></translation>
+        <translation>ridelog</translation>
     </message>
     <message>
         <source>Recent documents</source>
-        <translation type="unfinished"></translation>
+        <translation>Documents récents</translation>
     </message>
     <message>
         <source>&amp;Recent documents:</source>
-        <translation type="unfinished"></translation>
+        <translation>Documents &amp;récents :</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau</translation>
     </message>
     <message>
         <source>Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir…</translation>
     </message>
     <message>
         <source>Import Dump…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer des données…</translation>
     </message>
 </context>
 <context>
     <name>ridelog::StatValuesView</name>
     <message>
         <source>Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs</translation>
     </message>
 </context>
 <context>
     <name>ridelog::StatWindowController</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
         <source>Save C&amp;hart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le &amp;graphique…</translation>
     </message>
     <message>
         <source>Save &amp;Report…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le &amp;rapport…</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Édition</translation>
     </message>
     <message>
         <source>&amp;Copy Values</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier les valeurs</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Affichage</translation>
     </message>
     <message>
         <source>&amp;Go</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ller</translation>
     </message>
     <message>
         <source>&amp;Previous Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Année &amp;précédente</translation>
     </message>
     <message>
         <source>&amp;Next Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Année &amp;suivante</translation>
     </message>
     <message>
         <source>P&amp;revious Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mois pré&amp;cédent</translation>
     </message>
     <message>
         <source>Ne&amp;xt Month</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mois suivant</translation>
     </message>
     <message>
         <source>Pre&amp;vious Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaine précé&amp;dente</translation>
     </message>
     <message>
         <source>Next &amp;Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaine sui&amp;vante</translation>
     </message>
     <message>
         <source>&amp;Today</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aujourd&apos;hui</translation>
     </message>
     <message>
         <source>&amp;Date…</source>
-        <translation type="unfinished"></translation>
+        <translation>Da&amp;te…</translation>
     </message>
     <message>
         <source>The statistics are copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les statistiques sont copiées.</translation>
     </message>
     <message>
         <source>Statistics – %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistiques – %1</translation>
     </message>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Aujourd&apos;hui</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Period</source>
-        <translation type="unfinished"></translation>
+        <translation>Période</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Année</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mois</translation>
     </message>
     <message>
         <source>Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaine</translation>
     </message>
     <message>
         <source>Save Chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le graphique…</translation>
     </message>
     <message>
         <source>This window goes from the year %1 to the year %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette fenêtre va de l&apos;année %1 à l&apos;année %2.</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ai&amp;de</translation>
     </message>
 </context>
 <context>
     <name>ridelog::TourSummaryView</name>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Résumé</translation>
     </message>
 </context>
 <context>
     <name>ridelog::TourTableView</name>
     <message>
         <source>Tours</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorties</translation>
     </message>
     <message>
         <source>&amp;Reverse Order</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre in&amp;verse</translation>
     </message>
 </context>
 <context>
     <name>ridelog::TourWindowController</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregi&amp;strer</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exporter…</translation>
     </message>
     <message>
         <source>Save C&amp;hart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le &amp;graphique…</translation>
     </message>
     <message>
         <source>&amp;Print…</source>
-        <translation type="unfinished"></translation>
+        <translation>I&amp;mprimer…</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Édition</translation>
     </message>
     <message>
         <source>&amp;Copy Samples</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier les mesures</translation>
     </message>
     <message>
         <source>Copy Su&amp;mmary</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier le résu&amp;mé</translation>
     </message>
     <message>
         <source>F&amp;ormat</source>
-        <translation type="unfinished"></translation>
+        <translation>F&amp;ormat</translation>
     </message>
     <message>
         <source>&amp;Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gras</translation>
     </message>
     <message>
         <source>&amp;Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Italique</translation>
     </message>
     <message>
         <source>&amp;Underline</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Souligné</translation>
     </message>
     <message>
         <source>&amp;List</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Liste</translation>
     </message>
     <message>
         <source>Lin&amp;k…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lie&amp;n…</translation>
     </message>
     <message>
         <source>&amp;Open Link</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir le lien</translation>
     </message>
     <message>
         <source>Here is no link to a page or a mail address that could be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas ici de lien vers une page ou une adresse qui puisse être ouvert.</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Affichage</translation>
     </message>
     <message>
         <source>&amp;Manual Range of Altitudes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Plage d&apos;altitudes fixe</translation>
     </message>
     <message>
         <source>&amp;Data</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Données</translation>
     </message>
     <message>
         <source>S&amp;ummary</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Résumé</translation>
     </message>
     <message>
         <source>Horizontal axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Axe horizontal</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>Series</source>
-        <translation type="unfinished"></translation>
+        <translation>Séries</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Données</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Résumé</translation>
     </message>
     <message>
         <source>Save Chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le graphique…</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Description</translation>
     </message>
     <message>
         <source>Samples</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesures</translation>
     </message>
     <message>
         <source>yyyy/MM/dd - HH:mm</source>
-        <translation type="unfinished"></translation>
+        <translation>dd/MM/yyyy - HH:mm</translation>
     </message>
     <message>
         <source>Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Lien</translation>
     </message>
     <message>
         <source>Address of the page that the selected words lead to, empty for none:</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse de la page où mènent les mots choisis, vide pour aucune :</translation>
     </message>
     <message>
         <source>No samples are selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune mesure n&apos;est sélectionnée.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln sample(s) copied.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln mesure copiée.</numerusform>
+            <numerusform>%Ln mesures copiées.</numerusform>
         </translation>
     </message>
     <message>
         <source>The summary is copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le résumé est copié.</translation>
     </message>
     <message>
         <source>Altitude</source>
-        <translation type="unfinished"></translation>
+        <translation>Altitude</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse</translation>
     </message>
     <message>
         <source>Pulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Pouls</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ai&amp;de</translation>
     </message>
 </context>
 <context>
     <name>ridelog::UndoActions</name>
     <message>
         <source>&amp;Undo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler : %1</translation>
     </message>
     <message>
         <source>&amp;Redo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Refaire : %1</translation>
     </message>
 </context>
 <context>
     <name>ridelog::WindowMenu</name>
     <message>
         <source>&amp;Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Fe&amp;nêtre</translation>
     </message>
 </context>
 <context>
     <name>ridelog::XMLUpdater</name>
     <message>
         <source>it names no application</source>
-        <translation type="unfinished"></translation>
+        <translation>elle ne nomme aucune application</translation>
     </message>
     <message>
         <source>it names no version</source>
-        <translation type="unfinished"></translation>
+        <translation>elle ne nomme aucune version</translation>
     </message>
     <message>
         <source>New version found</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle version trouvée</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécharger</translation>
     </message>
     <message>
         <source>No new version found</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune nouvelle version trouvée</translation>
     </message>
     <message>
         <source>No new version available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de nouvelle version.</translation>
     </message>
     <message>
         <source>it declares entities or attributes of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>elle déclare des entités ou des attributs à elle</translation>
     </message>
     <message>
         <source>it has too many attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>elle a trop d&apos;attributs</translation>
     </message>
     <message>
         <source>its encoding is not UTF-8 or UTF-16</source>
-        <translation type="unfinished"></translation>
+        <translation>son codage n&apos;est ni UTF-8 ni UTF-16</translation>
     </message>
     <message>
         <source>not well-formed XML, line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>XML mal formé, ligne %1 : %2</translation>
     </message>
     <message>
         <source>the entity %1 is not declared</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;entité %1 n&apos;est pas déclarée</translation>
     </message>
 </context>
 </TS>
