@@ -31,7 +31,7 @@ protected:
         QProcess tool;
         tool.start(QStringLiteral(RIDELOG_MAKE_MANUAL), {path("source"), path("html")});
         EXPECT_TRUE(tool.waitForFinished());
-        const auto error = QString::fromUtf8(tool.readAllStandardError()).trimmed();
+        auto error = QString::fromUtf8(tool.readAllStandardError()).trimmed();
         EXPECT_EQ(tool.exitCode(), error.isEmpty() ? 0 : 1) << qPrintable(error);
         return error;
     }
