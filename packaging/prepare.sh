@@ -43,6 +43,8 @@ install_missing() {
     if [[ $1 == test ]]; then
         packages+=(qt6-charts-dev libqt6opengl6-dev libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev
             qt6-translations-l10n xvfb openbox xdotool fonts-dejavu-core libxml2-utils gpsbabel python3)
+        # The package, and what looks at it.
+        packages+=(dpkg-dev file fakeroot lintian desktop-file-utils appstream shared-mime-info man-db)
     fi
 
     local missing
@@ -79,6 +81,7 @@ and tested with
   clang 14 with its sanitizer libraries, clang-format 14, clang-tidy 14
   Xvfb, openbox, xdotool and the DejaVu fonts, for a desktop that nobody sees
   xmllint, gpsbabel and Python 3, which read what is exported
+  dpkg, fakeroot, lintian, desktop-file-validate, appstreamcli, update-mime-database and man, for Debian's package
 or newer." >&2
     exit 1
 }
