@@ -225,7 +225,7 @@ TEST_F(DocumentFileTest, ReadsOnlyFilesOfItsSize)
     const auto reasonFor = [&](const char* name) { return DocumentFile(path(name)).read(takeAll, 1000); };
     write("large", QByteArray(1001, 'x'));
     ASSERT_EQ(::mkfifo(qPrintable(path("pipe")), 0600), 0);
-    EXPECT_EQ(reasonFor("large"), QStringLiteral("it is too large: 1001 bytes, at most 1000 are read"));
+    EXPECT_EQ(reasonFor("large"), QStringLiteral("it is too large: 1,001 bytes, at most 1,000 are read"));
     EXPECT_EQ(reasonFor("pipe"), QStringLiteral("it is not a regular file"));
     EXPECT_EQ(reasonFor(""), QStringLiteral("it is a folder"));
     EXPECT_NE(reasonFor("none"), std::nullopt);
