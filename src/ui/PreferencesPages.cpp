@@ -57,11 +57,11 @@ PreferencesPage* PreferencesController::makeGeneralPage()
     form.addRow(tr("Newer versions:"),
                 page->tied(new QCheckBox(tr("Look for them &automatically")), DefaultsKeys::automaticCheck));
     auto* days = numberField(tr("Days between two looks for newer versions"), 1, mostDays);
-    const auto showUnit = [days](int count) { days->setSuffix(tr(" day(s)", "after the number", count)); };
-    connect(days, &QSpinBox::valueChanged, days, showUnit);
-    showUnit(days->value());
     enableWhile(*days, _defaults, DefaultsKeys::automaticCheck);
     form.addRow(tr("&Every:"), page->tied(days, DefaultsKeys::checkForUpdateAfterDays));
+    const auto showUnit = [days] { days->setSuffix(tr(" day(s)", "after the number", days->value())); };
+    _defaults.observe(DefaultsKeys::checkForUpdateAfterDays, days, showUnit);
+    showUnit();
     enableWhile(*form.labelForField(days), _defaults, DefaultsKeys::automaticCheck);
 
     auto* language = new QComboBox;

@@ -288,6 +288,18 @@ TEST_F(Preferences, TheChosenLanguageIsThatOfTheWindows)
     QLocale::setDefault(QLocale::c());
 }
 
+TEST_F(Preferences, DaysAreCountedInTheirOwnForm)
+{
+    open();
+    defaults->setValue(DefaultsKeys::automaticCheck, true);
+    auto& days = control<QSpinBox>(DefaultsKeys::checkForUpdateAfterDays);
+    EXPECT_EQ(days.text(), QStringLiteral("7 days"));
+    type(days, "1");
+    EXPECT_EQ(days.text(), QStringLiteral("1 day"));
+    defaults->setValue(DefaultsKeys::checkForUpdateAfterDays, 2);
+    EXPECT_EQ(days.text(), QStringLiteral("2 days"));
+}
+
 TEST_F(Preferences, NonsenseInTheSettingsIsSurvivedAndStays)
 {
     write("settings", "[General]\npulse_maxPulse=99999\npulse_minPulse=fast\ncolor_speed=green\n"
