@@ -5,7 +5,7 @@
     <name>AppController</name>
     <message>
         <source>changes that are not saved are kept in this folder, and nothing else</source>
-        <translation>in diesem Ordner werden nur nicht gespeicherte Änderungen aufbewahrt, sonst nichts</translation>
+        <translation>dieser Ordner ist nur für nicht gespeicherte Änderungen da</translation>
     </message>
 </context>
 <context>
@@ -39,7 +39,7 @@
     </message>
     <message>
         <source>it is too large: %1 bytes, at most %2 are read</source>
-        <translation>es ist zu groß: %1 Bytes, höchstens %2 werden gelesen</translation>
+        <translation>die Datei ist zu groß: %1 Bytes, gelesen werden höchstens %2</translation>
     </message>
     <message>
         <source>no backup can be kept: %1</source>
@@ -62,7 +62,7 @@
     </message>
     <message>
         <source>another program has taken it meanwhile</source>
-        <translation>ein anderes Programm hat es inzwischen übernommen</translation>
+        <translation>ein anderes Programm hat sie inzwischen übernommen</translation>
     </message>
     <message>
         <source>the document is open and has changes that are not saved</source>
@@ -89,11 +89,11 @@
     </message>
     <message>
         <source>FIT knows no dates before %1, and the tour starts at %2</source>
-        <translation>FIT kennt keine Zeiten vor %1, und die Tour beginnt am %2</translation>
+        <translation>FIT kennt kein Datum vor %1, und die Tour beginnt am %2</translation>
     </message>
     <message>
         <source>FIT knows no dates after %1, and the tour ends at %2</source>
-        <translation>FIT kennt keine Zeiten nach %1, und die Tour endet am %2</translation>
+        <translation>FIT kennt kein Datum nach %1, und die Tour endet am %2</translation>
     </message>
     <message>
         <source>Report for the browser (HTML)</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>it can tell of the years 1 to 9999 only, and a tour has the date %1</source>
-        <translation>dieses Format kennt nur die Jahre 1 bis 9999, und eine Tour ist vom %1</translation>
+        <translation>dieses Format kennt nur die Jahre 1 bis 9999, und eine Tour hat das Datum %1</translation>
     </message>
 </context>
 <context>
@@ -155,7 +155,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is no dictionary</source>
-        <translation>„%1“ ist kein Verzeichnis</translation>
+        <translation>„%1“ ist kein Wörterbuch</translation>
     </message>
     <message>
         <source>an archive, but not of a tour library</source>
@@ -175,18 +175,18 @@
     </message>
     <message>
         <source>it was opened for reading only</source>
-        <translation>es wurde nur zum Lesen geöffnet</translation>
+        <translation>es wurde schreibgeschützt geöffnet</translation>
     </message>
 </context>
 <context>
     <name>OdoData</name>
     <message>
         <source>it is a folder</source>
-        <translation>es ist ein Ordner</translation>
+        <translation>das ist ein Ordner</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation>es ist keine gewöhnliche Datei</translation>
+        <translation>das ist keine gewöhnliche Datei</translation>
     </message>
     <message>
         <source>not a raw dump: %1 bytes, a dump has no more than %2</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>All</source>
-        <translation>Alle</translation>
+        <translation>Gesamt</translation>
     </message>
 </context>
 <context>
@@ -527,11 +527,11 @@
     </message>
     <message>
         <source>Average grade uphill</source>
-        <translation>Durchschnittliche Steigung</translation>
+        <translation>Mittlere Steigung</translation>
     </message>
     <message>
         <source>Average grade downhill</source>
-        <translation>Durchschnittliches Gefälle</translation>
+        <translation>Mittleres Gefälle</translation>
     </message>
     <message>
         <source>First tour</source>
@@ -586,7 +586,7 @@
     </message>
     <message>
         <source>Moving Speed</source>
-        <translation>Fahrtempo</translation>
+        <translation>Tempo in Fahrt</translation>
     </message>
     <message>
         <source>Climbs</source>
@@ -609,22 +609,22 @@
     <name>TourExport</name>
     <message>
         <source>it is a link that leads nowhere</source>
-        <translation>es ist eine Verknüpfung, die ins Leere führt</translation>
+        <translation>das ist eine Verknüpfung, die ins Leere führt</translation>
     </message>
     <message>
         <source>it is there already</source>
-        <translation>es gibt sie schon</translation>
+        <translation>die Datei gibt es schon</translation>
     </message>
     <message>
         <source>it holds tours, which an export would replace</source>
-        <translation>sie enthält Touren, die ein Export ersetzen würde</translation>
+        <translation>die Datei enthält Touren, und ein Export würde sie ersetzen</translation>
     </message>
 </context>
 <context>
     <name>TourPage</name>
     <message>
         <source>it holds tours, which a page would replace</source>
-        <translation>sie enthält Touren, die eine Seite ersetzen würde</translation>
+        <translation>die Datei enthält Touren, und eine Seite würde sie ersetzen</translation>
     </message>
     <message>
         <source>the page cannot be drawn</source>
@@ -718,11 +718,11 @@
     </message>
     <message>
         <source>Average climb</source>
-        <translation>Durchschnittlicher Anstieg</translation>
+        <translation>Mittlerer Anstieg</translation>
     </message>
     <message>
         <source>Average grade</source>
-        <translation>Durchschnittliche Steigung</translation>
+        <translation>Mittlere Steigung</translation>
     </message>
     <message>
         <source>Steepest grade</source>
@@ -809,7 +809,7 @@
     </message>
     <message>
         <source>no type string of values that can be read</source>
-        <translation>keine Typangabe von lesbaren Werten</translation>
+        <translation>keine Typangabe lesbarer Werte</translation>
     </message>
     <message>
         <source>the end of an object that was not begun</source>
@@ -821,7 +821,7 @@
     </message>
     <message>
         <source>objects nested more than 200 deep</source>
-        <translation>mehr als 200 ineinander enthaltene Objekte</translation>
+        <translation>mehr als 200-fach verschachtelte Objekte</translation>
     </message>
     <message>
         <source>an object that contains itself</source>
@@ -872,11 +872,11 @@
     <name>WholeFile</name>
     <message>
         <source>nothing can be written in its folder: %1</source>
-        <translation>in ihrem Ordner lässt sich nichts schreiben: %1</translation>
+        <translation>im Ordner der Datei lässt sich nichts schreiben: %1</translation>
     </message>
     <message>
         <source>it is there already</source>
-        <translation>es gibt sie schon</translation>
+        <translation>die Datei gibt es schon</translation>
     </message>
     <message>
         <source>no file can have this name</source>
@@ -884,15 +884,15 @@
     </message>
     <message>
         <source>it is a folder</source>
-        <translation>es ist ein Ordner</translation>
+        <translation>das ist ein Ordner</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation>es ist keine gewöhnliche Datei</translation>
+        <translation>das ist keine gewöhnliche Datei</translation>
     </message>
     <message>
         <source>it is a link that leads nowhere</source>
-        <translation>es ist eine Verknüpfung, die ins Leere führt</translation>
+        <translation>das ist eine Verknüpfung, die ins Leere führt</translation>
     </message>
 </context>
 <context>
@@ -903,11 +903,11 @@
     </message>
     <message>
         <source>What of the log is written: none, errors or trace.</source>
-        <translation>Was vom Protokoll geschrieben wird: none, errors oder trace.</translation>
+        <translation>Was protokolliert wird: none, errors oder trace.</translation>
     </message>
     <message>
         <source>Starts with the simulated device plugged in.</source>
-        <translation>Beginnt mit angestecktem simuliertem Gerät.</translation>
+        <translation>Startet mit angeschlossenem simuliertem Gerät.</translation>
     </message>
     <message>
         <source>Where newer versions are looked for.</source>
@@ -938,29 +938,29 @@
     </message>
     <message>
         <source>“%1” is no altitude. Write a number, like 850.</source>
-        <translation>„%1“ ist keine Höhe. Schreiben Sie eine Zahl wie 850.</translation>
+        <translation>„%1“ ist keine Höhe. Geben Sie eine Zahl wie 850 ein.</translation>
     </message>
     <message>
         <source>“%1” is out of range. It has to be between %2 and %3 %4.</source>
-        <translation>„%1“ ist außerhalb des Bereichs. Erlaubt ist %2 bis %3 %4.</translation>
+        <translation>„%1“ liegt außerhalb des Bereichs. Erlaubt sind %2 bis %3 %4.</translation>
     </message>
 </context>
 <context>
     <name>ridelog::ApplicationWindows</name>
     <message>
         <source>a document without a name</source>
-        <translation>ein Dokument ohne Namen</translation>
+        <translation>ein unbenanntes Dokument</translation>
     </message>
     <message>
         <source>Changes that are not saved cannot be kept aside: %1</source>
-        <translation>Nicht gespeicherte Änderungen können nicht beiseitegelegt werden: %1</translation>
+        <translation>Nicht gespeicherte Änderungen lassen sich nicht aufbewahren: %1</translation>
     </message>
     <message numerus="yes">
         <source>The document as it was on %1, with %Ln tour(s), was kept.</source>
         <comment>date</comment>
         <translation>
-            <numerusform>Das Dokument vom Stand %1 mit %Ln Tour wurde aufbewahrt.</numerusform>
-            <numerusform>Das Dokument vom Stand %1 mit %Ln Touren wurde aufbewahrt.</numerusform>
+            <numerusform>Das Dokument mit Stand vom %1 (%Ln Tour) wurde aufbewahrt.</numerusform>
+            <numerusform>Das Dokument mit Stand vom %1 (%Ln Touren) wurde aufbewahrt.</numerusform>
         </translation>
     </message>
     <message>
@@ -969,7 +969,7 @@
     </message>
     <message>
         <source>ridelog ended before %1 was saved.</source>
-        <translation>ridelog endete, bevor %1 gespeichert war.</translation>
+        <translation>ridelog wurde beendet, bevor %1 gespeichert war.</translation>
     </message>
     <message>
         <source>&amp;Recover</source>
@@ -985,7 +985,7 @@
     </message>
     <message>
         <source>What ridelog kept of %1 could not be recovered.</source>
-        <translation>Was ridelog von %1 aufbewahrt hat, ließ sich nicht wiederherstellen.</translation>
+        <translation>Die aufbewahrten Änderungen (%1) ließen sich nicht wiederherstellen.</translation>
     </message>
     <message>
         <source>%1
@@ -993,7 +993,7 @@
 It is in %2, and stays there until it is discarded.</source>
         <translation>%1
 
-Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
+Sie liegen in %2 und bleiben dort, bis sie verworfen werden.</translation>
     </message>
     <message>
         <source>&amp;Keep</source>
@@ -1001,7 +1001,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>What was kept of %1 was not discarded.</source>
-        <translation>Was von %1 aufbewahrt ist, wurde nicht verworfen.</translation>
+        <translation>Die aufbewahrten Änderungen (%1) wurden nicht verworfen.</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1062,7 +1062,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>Press Connect, wait for the line above to say that it is waiting, and then start sending from the device&apos;s own menu. A transfer takes about 85 seconds.</source>
-        <translation>Drücken Sie „Verbinden“, warten Sie, bis in der Zeile darüber steht, dass gewartet wird, und starten Sie dann das Senden im Menü des Geräts. Eine Übertragung dauert etwa 85 Sekunden.</translation>
+        <translation>Drücken Sie „Verbinden“, warten Sie, bis in der Zeile darüber „Warten auf das Gerät…“ steht, und starten Sie dann das Senden im Menü des Geräts. Eine Übertragung dauert etwa 85 Sekunden.</translation>
     </message>
     <message>
         <source>Serial &amp;port:</source>
@@ -1096,7 +1096,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>this build of ridelog has no address to look for updates at</source>
-        <translation>in dieser Ausgabe von ridelog ist keine Adresse für die Suche nach neueren Versionen</translation>
+        <translation>diese Ausgabe von ridelog kennt keine Adresse, um nach Updates zu suchen</translation>
     </message>
     <message>
         <source>not an address of the web (http, https) or of a file</source>
@@ -1119,7 +1119,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>Take them from your cycle computer, or import a raw dump of its memory. You can also drop a dump on this window.</source>
-        <translation>Holen Sie sie von Ihrem Fahrradcomputer, oder importieren Sie Rohdaten seines Speichers. Rohdaten lassen sich auch auf dieses Fenster ziehen.</translation>
+        <translation>Holen Sie sie von Ihrem Fahrradcomputer, oder importieren Sie die Rohdaten seines Speichers. Eine Rohdaten-Datei lässt sich auch auf dieses Fenster ziehen.</translation>
     </message>
     <message>
         <source>Connect De&amp;vice</source>
@@ -1134,7 +1134,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     <name>ridelog::ExportPanel</name>
     <message>
         <source>Export</source>
-        <translation>Exportieren</translation>
+        <translation>Export</translation>
     </message>
     <message>
         <source>Selected tours (%1)</source>
@@ -1200,11 +1200,11 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>It is in %1 already. What it holds is lost then.</source>
-        <translation>Sie ist schon in %1. Ihr Inhalt geht dann verloren.</translation>
+        <translation>Die Datei gibt es in %1 schon. Ihr Inhalt geht dann verloren.</translation>
     </message>
     <message>
         <source>In %1 there are already %2. What they hold is lost then.</source>
-        <translation>In %1 gibt es schon %2. Ihr Inhalt geht dann verloren.</translation>
+        <translation>In %1 gibt es schon %2. Der Inhalt dieser Dateien geht dann verloren.</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
@@ -1212,7 +1212,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>Another export is under way. Try again when it has ended.</source>
-        <translation>Ein anderer Export läuft noch. Versuchen Sie es nach seinem Ende noch einmal.</translation>
+        <translation>Ein anderer Export läuft noch. Versuchen Sie es danach noch einmal.</translation>
     </message>
     <message>
         <source>Export cancelled: nothing was written.</source>
@@ -1221,24 +1221,24 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     <message numerus="yes">
         <source>Export cancelled: %1 of %Ln file(s) were written.</source>
         <translation>
-            <numerusform>Export abgebrochen: %1 von %Ln Datei wurde geschrieben.</numerusform>
-            <numerusform>Export abgebrochen: %1 von %Ln Dateien wurden geschrieben.</numerusform>
+            <numerusform>Export abgebrochen: %1 von %Ln Datei geschrieben.</numerusform>
+            <numerusform>Export abgebrochen: %1 von %Ln Dateien geschrieben.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln tour(s) exported as %1.</source>
         <comment>name of a file</comment>
         <translation>
-            <numerusform>%Ln Tour exportiert als %1.</numerusform>
-            <numerusform>%Ln Touren exportiert als %1.</numerusform>
+            <numerusform>%Ln Tour als %1 exportiert.</numerusform>
+            <numerusform>%Ln Touren als %1 exportiert.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln tour(s) exported to %1.</source>
         <comment>name of a folder</comment>
         <translation>
-            <numerusform>%Ln Tour exportiert nach %1.</numerusform>
-            <numerusform>%Ln Touren exportiert nach %1.</numerusform>
+            <numerusform>%Ln Tour nach %1 exportiert.</numerusform>
+            <numerusform>%Ln Touren nach %1 exportiert.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1277,7 +1277,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     <name>ridelog::ExportProgress</name>
     <message>
         <source>Export</source>
-        <translation>Exportieren</translation>
+        <translation>Export</translation>
     </message>
     <message>
         <source>Exported tours</source>
@@ -1375,7 +1375,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>S&amp;how Removed Tours</source>
-        <translation>Entfernte &amp;zeigen</translation>
+        <translation>Entfernte Touren &amp;zeigen</translation>
     </message>
     <message>
         <source>&amp;Find</source>
@@ -1423,7 +1423,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>Edit &amp;Title</source>
-        <translation>&amp;Titel bearbeiten</translation>
+        <translation>Titel &amp;bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Device</source>
@@ -1459,7 +1459,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>&amp;Check for Updates…</source>
-        <translation>Nach &amp;neuen Versionen suchen…</translation>
+        <translation>Nach &amp;Updates suchen…</translation>
     </message>
     <message>
         <source>Send &amp;Feedback…</source>
@@ -1491,11 +1491,11 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>The simulated device is plugged in. Press Connect to take its tours.</source>
-        <translation>Das simulierte Gerät ist angesteckt. Drücken Sie „Verbinden“, um seine Touren zu holen.</translation>
+        <translation>Das simulierte Gerät ist angeschlossen. Drücken Sie „Verbinden“, um seine Touren zu holen.</translation>
     </message>
     <message>
         <source>No mail program could be started. Write to %1.</source>
-        <translation>Kein Mailprogramm ließ sich starten. Schreiben Sie an %1.</translation>
+        <translation>Es ließ sich kein Mailprogramm starten. Schreiben Sie an %1.</translation>
     </message>
     <message>
         <source>About ridelog</source>
@@ -1526,15 +1526,15 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>Untitled</source>
-        <translation>Ohne Namen</translation>
+        <translation>Unbenannt</translation>
     </message>
     <message>
         <source>Untitled %1</source>
-        <translation>Ohne Namen %1</translation>
+        <translation>Unbenannt %1</translation>
     </message>
     <message>
         <source>%1 (read-only)</source>
-        <translation>%1 (nur lesen)</translation>
+        <translation>%1 (schreibgeschützt)</translation>
     </message>
     <message>
         <source>Tours</source>
@@ -1598,11 +1598,11 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>Saved as %1.</source>
-        <translation>Gespeichert als %1.</translation>
+        <translation>Als %1 gespeichert.</translation>
     </message>
     <message>
         <source>Go back to what %1 holds?</source>
-        <translation>Zurück zum gespeicherten Stand von %1?</translation>
+        <translation>%1 auf den gespeicherten Stand zurücksetzen?</translation>
     </message>
     <message>
         <source>All changes since it was saved are lost, and cannot be brought back.</source>
@@ -1657,7 +1657,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>What is removed stays in the document: see Edit &gt; Show Removed Tours.</source>
-        <translation>Was entfernt ist, bleibt im Dokument: siehe Bearbeiten &gt; Entfernte zeigen.</translation>
+        <translation>Was entfernt ist, bleibt im Dokument: siehe Bearbeiten &gt; Entfernte Touren zeigen.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln tour(s) restored.</source>
@@ -1676,7 +1676,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>Dis&amp;connect</source>
-        <translation>&amp;Trennen</translation>
+        <translation>Tr&amp;ennen</translation>
     </message>
     <message>
         <source>&amp;Connect</source>
@@ -1704,23 +1704,23 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>Receiving…</source>
-        <translation>Empfangen…</translation>
+        <translation>Wird empfangen…</translation>
     </message>
     <message>
         <source>Receiving, %1 %</source>
-        <translation>Empfangen, %1 %</translation>
+        <translation>Wird empfangen, %1 %</translation>
     </message>
     <message numerus="yes">
         <source>Receiving, %1 %, %Ln second(s) left</source>
         <comment>percentage</comment>
         <translation>
-            <numerusform>Empfangen, %1 %, noch %Ln Sekunde</numerusform>
-            <numerusform>Empfangen, %1 %, noch %Ln Sekunden</numerusform>
+            <numerusform>Wird empfangen, %1 %, noch %Ln Sekunde</numerusform>
+            <numerusform>Wird empfangen, %1 %, noch %Ln Sekunden</numerusform>
         </translation>
     </message>
     <message>
         <source>What arrived</source>
-        <translation>Was ankam</translation>
+        <translation>Das Empfangene</translation>
     </message>
     <message>
         <source>Broken off: %1.</source>
@@ -1914,7 +1914,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>&amp;Every:</source>
-        <translation>A&amp;lle:</translation>
+        <translation>Abs&amp;tand:</translation>
     </message>
     <message>
         <source>System language</source>
@@ -1986,7 +1986,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>Speed has an a&amp;xis of its own beside another series</source>
-        <translation>T&amp;empo hat neben anderen Reihen eine eigene Achse</translation>
+        <translation>T&amp;empo hat neben einer anderen Kurve eine eigene Achse</translation>
     </message>
     <message>
         <source>Lowest pulse of the range</source>
@@ -2018,7 +2018,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>&amp;Fade those outside the range</source>
-        <translation>Die außerhalb des Bereichs b&amp;lasser</translation>
+        <translation>Außerhalb des Bereichs mit Ver&amp;lauf</translation>
     </message>
     <message>
         <source>Serial line:</source>
@@ -2026,11 +2026,11 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>&amp;Alternate transfer settings (two stop bits)</source>
-        <translation>And&amp;ere Übertragung (zwei Stoppbits)</translation>
+        <translation>And&amp;ere Übertragungseinstellungen (zwei Stoppbits)</translation>
     </message>
     <message>
         <source>Try them when what arrives is no dump of the device. They count from the next transfer on.</source>
-        <translation>Probieren Sie das, wenn das Empfangene nicht aus Rohdaten des Geräts besteht. Es gilt ab der nächsten Übertragung.</translation>
+        <translation>Probieren Sie diese aus, wenn das Empfangene nicht aus Rohdaten des Geräts besteht. Sie gelten ab der nächsten Übertragung.</translation>
     </message>
     <message numerus="yes">
         <source> day(s)</source>
@@ -2056,7 +2056,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     <name>ridelog::SaveChartPanel</name>
     <message>
         <source>it holds tours, which a picture would replace</source>
-        <translation>sie enthält Touren, die ein Bild ersetzen würde</translation>
+        <translation>die Datei enthält Touren, und ein Bild würde sie ersetzen</translation>
     </message>
     <message>
         <source>%1 was not saved: %2.</source>
@@ -2064,7 +2064,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>The chart was saved as %1.</source>
-        <translation>Das Diagramm wurde gespeichert als %1.</translation>
+        <translation>Das Diagramm wurde als %1 gespeichert.</translation>
     </message>
     <message>
         <source>Save Chart</source>
@@ -2080,7 +2080,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>&amp;Use as default size</source>
-        <translation>Größe &amp;merken</translation>
+        <translation>Als Standard&amp;größe verwenden</translation>
     </message>
     <message>
         <source>pixels</source>
@@ -2189,7 +2189,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>The statistics are copied.</source>
-        <translation>Die Statistik ist kopiert.</translation>
+        <translation>Die Statistik wurde kopiert.</translation>
     </message>
     <message>
         <source>Statistics – %1</source>
@@ -2209,7 +2209,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>All</source>
-        <translation>Alle</translation>
+        <translation>Gesamt</translation>
     </message>
     <message>
         <source>Year</source>
@@ -2310,15 +2310,15 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>Lin&amp;k…</source>
-        <translation>&amp;Verknüpfung…</translation>
+        <translation>L&amp;ink…</translation>
     </message>
     <message>
         <source>&amp;Open Link</source>
-        <translation>Verknüpfung &amp;öffnen</translation>
+        <translation>Link &amp;öffnen</translation>
     </message>
     <message>
         <source>Here is no link to a page or a mail address that could be opened.</source>
-        <translation>Hier ist keine Verknüpfung zu einer Seite oder Mailadresse, die sich öffnen ließe.</translation>
+        <translation>Hier ist kein Link zu einer Seite oder E-Mail-Adresse, der sich öffnen ließe.</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -2350,7 +2350,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>Series</source>
-        <translation>Reihen</translation>
+        <translation>Kurven</translation>
     </message>
     <message>
         <source>Title</source>
@@ -2378,11 +2378,11 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>yyyy/MM/dd - HH:mm</source>
-        <translation>dd.MM.yyyy - HH:mm</translation>
+        <translation>dd.MM.yyyy, HH:mm</translation>
     </message>
     <message>
         <source>Link</source>
-        <translation>Verknüpfung</translation>
+        <translation>Link</translation>
     </message>
     <message>
         <source>Address of the page that the selected words lead to, empty for none:</source>
@@ -2390,7 +2390,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>No samples are selected.</source>
-        <translation>Es sind keine Messpunkte ausgewählt.</translation>
+        <translation>Keine Messpunkte ausgewählt.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln sample(s) copied.</source>
@@ -2401,7 +2401,7 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>The summary is copied.</source>
-        <translation>Die Übersicht ist kopiert.</translation>
+        <translation>Die Übersicht wurde kopiert.</translation>
     </message>
     <message>
         <source>Altitude</source>
@@ -2430,6 +2430,14 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
         <source>&amp;Redo %1</source>
         <translation>&amp;Wiederholen: %1</translation>
     </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
 </context>
 <context>
     <name>ridelog::WindowMenu</name>
@@ -2442,11 +2450,11 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     <name>ridelog::XMLUpdater</name>
     <message>
         <source>it names no application</source>
-        <translation>sie nennt keine Anwendung</translation>
+        <translation>die Beschreibung nennt keine Anwendung</translation>
     </message>
     <message>
         <source>it names no version</source>
-        <translation>sie nennt keine Version</translation>
+        <translation>die Beschreibung nennt keine Version</translation>
     </message>
     <message>
         <source>New version found</source>
@@ -2466,19 +2474,19 @@ Es liegt in %2 und bleibt dort, bis es verworfen wird.</translation>
     </message>
     <message>
         <source>No new version available.</source>
-        <translation>Es gibt keine neue Version.</translation>
+        <translation>Keine neue Version verfügbar.</translation>
     </message>
     <message>
         <source>it declares entities or attributes of its own</source>
-        <translation>sie vereinbart eigene Entitäten oder Attribute</translation>
+        <translation>die Beschreibung vereinbart eigene Entitäten oder Attribute</translation>
     </message>
     <message>
         <source>it has too many attributes</source>
-        <translation>sie hat zu viele Attribute</translation>
+        <translation>die Beschreibung hat zu viele Attribute</translation>
     </message>
     <message>
         <source>its encoding is not UTF-8 or UTF-16</source>
-        <translation>ihre Kodierung ist weder UTF-8 noch UTF-16</translation>
+        <translation>die Beschreibung ist weder in UTF-8 noch in UTF-16 kodiert</translation>
     </message>
     <message>
         <source>not well-formed XML, line %1: %2</source>

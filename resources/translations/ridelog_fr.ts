@@ -39,11 +39,11 @@
     </message>
     <message>
         <source>it is too large: %1 bytes, at most %2 are read</source>
-        <translation>il est trop grand : %1 octets, %2 au plus sont lus</translation>
+        <translation>il est trop grand&#xa0;: %1 octets, %2 au plus sont lus</translation>
     </message>
     <message>
         <source>no backup can be kept: %1</source>
-        <translation>aucune copie de secours ne peut être gardée : %1</translation>
+        <translation>aucune copie de secours ne peut être gardée&#xa0;: %1</translation>
     </message>
     <message>
         <source>another program has changed it meanwhile</source>
@@ -70,7 +70,7 @@
     </message>
     <message>
         <source>%1: folders cannot be locked there</source>
-        <translation>%1 : les dossiers ne peuvent pas y être verrouillés</translation>
+        <translation>%1&#xa0;: les dossiers ne peuvent pas y être verrouillés</translation>
     </message>
     <message>
         <source>%1 is damaged</source>
@@ -151,11 +151,11 @@
     <name>MyDocument</name>
     <message>
         <source>&quot;%1&quot; is no list</source>
-        <translation>« %1 » n&apos;est pas une liste</translation>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une liste</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no dictionary</source>
-        <translation>« %1 » n&apos;est pas un dictionnaire</translation>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas un dictionnaire</translation>
     </message>
     <message>
         <source>an archive, but not of a tour library</source>
@@ -163,11 +163,11 @@
     </message>
     <message>
         <source>not a tour library: &quot;%1&quot; is missing</source>
-        <translation>pas une collection de sorties : « %1 » manque</translation>
+        <translation>pas une collection de sorties&#xa0;: «&#xa0;%1&#xa0;» manque</translation>
     </message>
     <message>
         <source>not a readable document: %1</source>
-        <translation>pas un document lisible : %1</translation>
+        <translation>pas un document lisible&#xa0;: %1</translation>
     </message>
     <message>
         <source>the document has no file yet</source>
@@ -190,19 +190,19 @@
     </message>
     <message>
         <source>not a raw dump: %1 bytes, a dump has no more than %2</source>
-        <translation>pas des données brutes : %1 octets, elles en ont au plus %2</translation>
+        <translation>pas des données brutes&#xa0;: %1 octets, elles en ont au plus %2</translation>
     </message>
     <message>
         <source>not a raw dump: %1 bytes, at least %2 are needed</source>
-        <translation>pas des données brutes : %1 octets, il en faut au moins %2</translation>
+        <translation>pas des données brutes&#xa0;: %1 octets, il en faut au moins %2</translation>
     </message>
     <message>
         <source>not a raw dump: it does not begin with &quot;%1&quot;</source>
-        <translation>pas des données brutes : le début n&apos;est pas « %1 »</translation>
+        <translation>pas des données brutes&#xa0;: le début n&apos;est pas «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>not a raw dump: no record and no hexadecimal digits at byte %1</source>
-        <translation>pas des données brutes : ni enregistrement ni chiffres hexadécimaux à l&apos;octet %1</translation>
+        <translation>pas des données brutes&#xa0;: ni enregistrement ni chiffres hexadécimaux à l&apos;octet %1</translation>
     </message>
 </context>
 <context>
@@ -249,7 +249,7 @@
     </message>
     <message>
         <source>the removed mark of a tour is missing or damaged</source>
-        <translation>la marque « supprimée » d&apos;une sortie manque ou est endommagée</translation>
+        <translation>la marque «&#xa0;supprimée&#xa0;» d&apos;une sortie manque ou est endommagée</translation>
     </message>
     <message>
         <source>the start of a tour is missing or damaged</source>
@@ -379,7 +379,7 @@
     </message>
     <message>
         <source>the port cannot be set to 9,600 bit/s</source>
-        <translation>le port ne peut pas être réglé sur 9 600 bit/s</translation>
+        <translation>le port ne peut pas être réglé sur 9&#xa0;600 bit/s</translation>
     </message>
     <message>
         <source>the port was closed or unplugged before anything arrived</source>
@@ -403,7 +403,7 @@
     </message>
     <message>
         <source>the device fell silent after %1: nothing for %2 s</source>
-        <translation>l&apos;appareil s&apos;est tu après %1 : rien pendant %2 s</translation>
+        <translation>l&apos;appareil s&apos;est tu après %1&#xa0;: rien pendant %2 s</translation>
     </message>
 </context>
 <context>
@@ -457,7 +457,7 @@
     <message>
         <source>Chart over %1: %2</source>
         <comment>x quantity, series</comment>
-        <translation>Graphique selon %1 : %2</translation>
+        <translation>Graphique selon %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -632,7 +632,7 @@
     </message>
     <message>
         <source>%1 was not printed: %2.</source>
-        <translation>%1 n&apos;a pas été imprimé : %2.</translation>
+        <translation>%1 n&apos;a pas été imprimé&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The printer %1 does not take the page.</source>
@@ -805,7 +805,7 @@
     </message>
     <message>
         <source>more than 65,536 classes</source>
-        <translation>plus de 65 536 classes</translation>
+        <translation>plus de 65&#xa0;536 classes</translation>
     </message>
     <message>
         <source>no type string of values that can be read</source>
@@ -872,7 +872,7 @@
     <name>WholeFile</name>
     <message>
         <source>nothing can be written in its folder: %1</source>
-        <translation>rien ne peut être écrit dans son dossier : %1</translation>
+        <translation>rien ne peut être écrit dans son dossier&#xa0;: %1</translation>
     </message>
     <message>
         <source>it is there already</source>
@@ -903,7 +903,7 @@
     </message>
     <message>
         <source>What of the log is written: none, errors or trace.</source>
-        <translation>Ce qui est écrit du journal : none, errors ou trace.</translation>
+        <translation>Ce qui est écrit du journal&#xa0;: none, errors ou trace.</translation>
     </message>
     <message>
         <source>Starts with the simulated device plugged in.</source>
@@ -938,11 +938,11 @@
     </message>
     <message>
         <source>“%1” is no altitude. Write a number, like 850.</source>
-        <translation>« %1 » n&apos;est pas une altitude. Écrivez un nombre, comme 850.</translation>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une altitude. Écrivez un nombre, comme 850.</translation>
     </message>
     <message>
         <source>“%1” is out of range. It has to be between %2 and %3 %4.</source>
-        <translation>« %1 » est hors limites. Il faut une valeur entre %2 et %3 %4.</translation>
+        <translation>«&#xa0;%1&#xa0;» est hors limites. Il faut une valeur entre %2 et %3 %4.</translation>
     </message>
 </context>
 <context>
@@ -953,7 +953,7 @@
     </message>
     <message>
         <source>Changes that are not saved cannot be kept aside: %1</source>
-        <translation>Les modifications non enregistrées ne peuvent pas être mises de côté : %1</translation>
+        <translation>Les modifications non enregistrées ne peuvent pas être mises de côté&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
         <source>The document as it was on %1, with %Ln tour(s), was kept.</source>
@@ -1017,15 +1017,15 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>%1 could not be opened: %2</source>
-        <translation>%1 n&apos;a pas pu être ouvert : %2</translation>
+        <translation>%1 n&apos;a pas pu être ouvert&#xa0;: %2</translation>
     </message>
     <message>
         <source>The download address “%1” could not be opened in a browser.</source>
-        <translation>L&apos;adresse de téléchargement « %1 » n&apos;a pas pu être ouverte dans un navigateur.</translation>
+        <translation>L&apos;adresse de téléchargement «&#xa0;%1&#xa0;» n&apos;a pas pu être ouverte dans un navigateur.</translation>
     </message>
     <message>
         <source>Newer versions could not be looked for: %1</source>
-        <translation>Les versions plus récentes n&apos;ont pas pu être cherchées : %1</translation>
+        <translation>Les versions plus récentes n&apos;ont pas pu être cherchées&#xa0;: %1</translation>
     </message>
     <message>
         <source>Looking for newer versions…</source>
@@ -1066,7 +1066,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>Serial &amp;port:</source>
-        <translation>&amp;Port série :</translation>
+        <translation>&amp;Port série&#xa0;:</translation>
     </message>
     <message>
         <source>Simulated device (%1)</source>
@@ -1146,11 +1146,11 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>&amp;Tours:</source>
-        <translation>&amp;Sorties :</translation>
+        <translation>&amp;Sorties&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Format:</source>
-        <translation>&amp;Format :</translation>
+        <translation>&amp;Format&#xa0;:</translation>
     </message>
     <message>
         <source>C&amp;hoose…</source>
@@ -1158,7 +1158,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>Fo&amp;lder:</source>
-        <translation>Doss&amp;ier :</translation>
+        <translation>Doss&amp;ier&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;All tours in one file</source>
@@ -1189,13 +1189,13 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>Replace %1?</source>
-        <translation>Remplacer %1 ?</translation>
+        <translation>Remplacer %1&#xa0;?</translation>
     </message>
     <message numerus="yes">
         <source>Replace %Ln file(s)?</source>
         <translation>
-            <numerusform>Remplacer %Ln fichier ?</numerusform>
-            <numerusform>Remplacer %Ln fichiers ?</numerusform>
+            <numerusform>Remplacer %Ln fichier&#xa0;?</numerusform>
+            <numerusform>Remplacer %Ln fichiers&#xa0;?</numerusform>
         </translation>
     </message>
     <message>
@@ -1216,21 +1216,21 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>Export cancelled: nothing was written.</source>
-        <translation>Exportation annulée : rien n&apos;a été écrit.</translation>
+        <translation>Exportation annulée&#xa0;: rien n&apos;a été écrit.</translation>
     </message>
     <message numerus="yes">
         <source>Export cancelled: %1 of %Ln file(s) were written.</source>
         <translation>
-            <numerusform>Exportation annulée : %1 fichier sur %Ln a été écrit.</numerusform>
-            <numerusform>Exportation annulée : %1 fichiers sur %Ln ont été écrits.</numerusform>
+            <numerusform>Exportation annulée&#xa0;: %1 fichier sur %Ln a été écrit.</numerusform>
+            <numerusform>Exportation annulée&#xa0;: %1 fichiers sur %Ln ont été écrits.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln tour(s) exported as %1.</source>
         <comment>name of a file</comment>
         <translation>
-            <numerusform>%Ln sortie exportée : %1.</numerusform>
-            <numerusform>%Ln sorties exportées : %1.</numerusform>
+            <numerusform>%Ln sortie exportée&#xa0;: %1.</numerusform>
+            <numerusform>%Ln sorties exportées&#xa0;: %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1250,14 +1250,14 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message numerus="yes">
         <source>%Ln file(s) could not be written: %1</source>
         <comment>list of files and reasons</comment>
         <translation>
-            <numerusform>%Ln fichier n&apos;a pas pu être écrit : %1</numerusform>
-            <numerusform>%Ln fichiers n&apos;ont pas pu être écrits : %1</numerusform>
+            <numerusform>%Ln fichier n&apos;a pas pu être écrit&#xa0;: %1</numerusform>
+            <numerusform>%Ln fichiers n&apos;ont pas pu être écrits&#xa0;: %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1487,7 +1487,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>There is no simulated device: %1</source>
-        <translation>Il n&apos;y a pas d&apos;appareil simulé : %1</translation>
+        <translation>Il n&apos;y a pas d&apos;appareil simulé&#xa0;: %1</translation>
     </message>
     <message>
         <source>The simulated device is plugged in. Press Connect to take its tours.</source>
@@ -1507,15 +1507,15 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>The document can only be read: %1</source>
-        <translation>Le document ne peut être que lu : %1</translation>
+        <translation>Le document ne peut être que lu&#xa0;: %1</translation>
     </message>
     <message>
         <source>Distance:</source>
-        <translation>Distance :</translation>
+        <translation>Distance&#xa0;:</translation>
     </message>
     <message>
         <source>Average speed:</source>
-        <translation>Vitesse moyenne :</translation>
+        <translation>Vitesse moyenne&#xa0;:</translation>
     </message>
     <message numerus="yes">
         <source>%Ln tour(s)</source>
@@ -1550,14 +1550,14 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>%1 was not imported: %2</source>
-        <translation>%1 n&apos;a pas été importé : %2</translation>
+        <translation>%1 n&apos;a pas été importé&#xa0;: %2</translation>
     </message>
     <message numerus="yes">
         <source>%1: %Ln tour(s) added, %2 already there.</source>
         <comment>file, number of tours</comment>
         <translation>
-            <numerusform>%1 : %Ln sortie ajoutée, %2 déjà là.</numerusform>
-            <numerusform>%1 : %Ln sorties ajoutées, %2 déjà là.</numerusform>
+            <numerusform>%1&#xa0;: %Ln sortie ajoutée, %2 déjà là.</numerusform>
+            <numerusform>%1&#xa0;: %Ln sorties ajoutées, %2 déjà là.</numerusform>
         </translation>
     </message>
     <message>
@@ -1602,7 +1602,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>Go back to what %1 holds?</source>
-        <translation>Revenir à ce que contient %1 ?</translation>
+        <translation>Revenir à ce que contient %1&#xa0;?</translation>
     </message>
     <message>
         <source>All changes since it was saved are lost, and cannot be brought back.</source>
@@ -1614,7 +1614,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>The document was not reverted: it has changed since you were asked.</source>
-        <translation>Le document n&apos;a pas été rétabli : il a changé depuis la question.</translation>
+        <translation>Le document n&apos;a pas été rétabli&#xa0;: il a changé depuis la question.</translation>
     </message>
     <message>
         <source>%1 could not be read.</source>
@@ -1638,7 +1638,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>Save the changes of %1 before it is closed?</source>
-        <translation>Enregistrer les modifications de %1 avant de le fermer ?</translation>
+        <translation>Enregistrer les modifications de %1 avant de le fermer&#xa0;?</translation>
     </message>
     <message>
         <source>They are lost if you do not save them.</source>
@@ -1657,7 +1657,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>What is removed stays in the document: see Edit &gt; Show Removed Tours.</source>
-        <translation>Ce qui est supprimé reste dans le document : voir Édition &gt; Voir les supprimées.</translation>
+        <translation>Ce qui est supprimé reste dans le document&#xa0;: voir Édition &gt; Voir les supprimées.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln tour(s) restored.</source>
@@ -1668,11 +1668,11 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>; what arrived is in %1</source>
-        <translation> ; ce qui est arrivé est dans %1</translation>
+        <translation>&#xa0;; ce qui est arrivé est dans %1</translation>
     </message>
     <message>
         <source>; what arrived could not be kept in %1: %2</source>
-        <translation> ; ce qui est arrivé n&apos;a pas pu être gardé dans %1 : %2</translation>
+        <translation>&#xa0;; ce qui est arrivé n&apos;a pas pu être gardé dans %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Dis&amp;connect</source>
@@ -1696,7 +1696,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>Cannot open %1: %2.</source>
-        <translation>%1 ne peut pas être ouvert : %2.</translation>
+        <translation>%1 ne peut pas être ouvert&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Transfer %1.</source>
@@ -1724,18 +1724,18 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>Broken off: %1.</source>
-        <translation>Interrompu : %1.</translation>
+        <translation>Interrompu&#xa0;: %1.</translation>
     </message>
     <message>
         <source>%1 is no dump of the device: %2</source>
-        <translation>%1 n&apos;est pas des données brutes de l&apos;appareil : %2</translation>
+        <translation>%1 n&apos;est pas des données brutes de l&apos;appareil&#xa0;: %2</translation>
     </message>
     <message numerus="yes">
         <source>Finished: %Ln tour(s) added, %1 already there</source>
         <comment>number of tours</comment>
         <translation>
-            <numerusform>Terminé : %Ln sortie ajoutée, %1 déjà là</numerusform>
-            <numerusform>Terminé : %Ln sorties ajoutées, %1 déjà là</numerusform>
+            <numerusform>Terminé&#xa0;: %Ln sortie ajoutée, %1 déjà là</numerusform>
+            <numerusform>Terminé&#xa0;: %Ln sorties ajoutées, %1 déjà là</numerusform>
         </translation>
     </message>
 </context>
@@ -1826,7 +1826,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>“%1” is not on this page.</source>
-        <translation>« %1 » n&apos;est pas dans cette page.</translation>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas dans cette page.</translation>
     </message>
 </context>
 <context>
@@ -1874,7 +1874,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>What you choose lasts until ridelog ends: %1 cannot be written.</source>
-        <translation>Vos choix ne durent que jusqu&apos;à la fin de ridelog : %1 ne peut pas être écrit.</translation>
+        <translation>Vos choix ne durent que jusqu&apos;à la fin de ridelog&#xa0;: %1 ne peut pas être écrit.</translation>
     </message>
     <message>
         <source>Kilometres, km/h and metres</source>
@@ -1886,11 +1886,11 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>&amp;Units:</source>
-        <translation>&amp;Unités :</translation>
+        <translation>&amp;Unités&#xa0;:</translation>
     </message>
     <message>
         <source>Transfers:</source>
-        <translation>Transferts :</translation>
+        <translation>Transferts&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Save the raw dump that arrives</source>
@@ -1902,7 +1902,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>Newer versions:</source>
-        <translation>Nouvelles versions :</translation>
+        <translation>Nouvelles versions&#xa0;:</translation>
     </message>
     <message>
         <source>Look for them &amp;automatically</source>
@@ -1914,7 +1914,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>&amp;Every:</source>
-        <translation>&amp;Tous les :</translation>
+        <translation>&amp;Tous les&#xa0;:</translation>
     </message>
     <message>
         <source>System language</source>
@@ -1922,7 +1922,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>La&amp;nguage:</source>
-        <translation>La&amp;ngue :</translation>
+        <translation>La&amp;ngue&#xa0;:</translation>
     </message>
     <message>
         <source>Counts from the next start on.</source>
@@ -1934,7 +1934,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>Al&amp;titude:</source>
-        <translation>Al&amp;titude :</translation>
+        <translation>Al&amp;titude&#xa0;:</translation>
     </message>
     <message>
         <source>Colour of the Altitude</source>
@@ -1942,7 +1942,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>&amp;Speed:</source>
-        <translation>&amp;Vitesse :</translation>
+        <translation>&amp;Vitesse&#xa0;:</translation>
     </message>
     <message>
         <source>Colour of the Speed</source>
@@ -1950,7 +1950,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>P&amp;ulse:</source>
-        <translation>Po&amp;uls :</translation>
+        <translation>Po&amp;uls&#xa0;:</translation>
     </message>
     <message>
         <source>Colour of the Pulse</source>
@@ -1958,7 +1958,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>&amp;Below the pulse range:</source>
-        <translation>&amp;Sous la plage de pouls :</translation>
+        <translation>&amp;Sous la plage de pouls&#xa0;:</translation>
     </message>
     <message>
         <source>Colour below the Pulse Range</source>
@@ -1966,7 +1966,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>&amp;Within the pulse range:</source>
-        <translation>Da&amp;ns la plage de pouls :</translation>
+        <translation>Da&amp;ns la plage de pouls&#xa0;:</translation>
     </message>
     <message>
         <source>Colour within the Pulse Range</source>
@@ -1974,7 +1974,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>Ab&amp;ove the pulse range:</source>
-        <translation>Au-d&amp;essus de la plage :</translation>
+        <translation>Au-d&amp;essus de la plage&#xa0;:</translation>
     </message>
     <message>
         <source>Colour above the Pulse Range</source>
@@ -2006,11 +2006,11 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>&amp;Range:</source>
-        <translation>Plag&amp;e :</translation>
+        <translation>Plag&amp;e&#xa0;:</translation>
     </message>
     <message>
         <source>Zones:</source>
-        <translation>Zones :</translation>
+        <translation>Zones&#xa0;:</translation>
     </message>
     <message>
         <source>Draw them &amp;behind the pulse</source>
@@ -2022,7 +2022,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>Serial line:</source>
-        <translation>Ligne série :</translation>
+        <translation>Ligne série&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Alternate transfer settings (two stop bits)</source>
@@ -2060,7 +2060,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>%1 was not saved: %2.</source>
-        <translation>%1 n&apos;a pas été enregistré : %2.</translation>
+        <translation>%1 n&apos;a pas été enregistré&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The chart was saved as %1.</source>
@@ -2088,7 +2088,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>Size:</source>
-        <translation>Taille :</translation>
+        <translation>Taille&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -2103,7 +2103,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>&amp;Recent documents:</source>
-        <translation>Documents &amp;récents :</translation>
+        <translation>Documents &amp;récents&#xa0;:</translation>
     </message>
     <message>
         <source>New</source>
@@ -2386,7 +2386,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>Address of the page that the selected words lead to, empty for none:</source>
-        <translation>Adresse de la page où mènent les mots choisis, vide pour aucune :</translation>
+        <translation>Adresse de la page où mènent les mots choisis, vide pour aucune&#xa0;:</translation>
     </message>
     <message>
         <source>No samples are selected.</source>
@@ -2424,11 +2424,19 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     <name>ridelog::UndoActions</name>
     <message>
         <source>&amp;Undo %1</source>
-        <translation>&amp;Annuler : %1</translation>
+        <translation>&amp;Annuler&#xa0;: %1</translation>
     </message>
     <message>
         <source>&amp;Redo %1</source>
-        <translation>&amp;Refaire : %1</translation>
+        <translation>&amp;Refaire&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Refaire</translation>
     </message>
 </context>
 <context>
@@ -2482,7 +2490,7 @@ C&apos;est dans %2, et y reste jusqu&apos;à ce que ce soit abandonné.</transla
     </message>
     <message>
         <source>not well-formed XML, line %1: %2</source>
-        <translation>XML mal formé, ligne %1 : %2</translation>
+        <translation>XML mal formé, ligne %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>the entity %1 is not declared</source>

@@ -27,9 +27,11 @@ UndoActions::UndoActions(QMenu& menu, UndoManager& undo) : QObject(&menu), _undo
 
 void UndoActions::show()
 {
-    _undoAction->setText(tr("&Undo %1").arg(_undo.undoActionName()).trimmed());
+    const auto undone = _undo.undoActionName();
+    const auto redone = _undo.redoActionName();
+    _undoAction->setText(undone.isEmpty() ? tr("&Undo") : tr("&Undo %1").arg(undone));
     _undoAction->setEnabled(_undo.canUndo());
-    _redoAction->setText(tr("&Redo %1").arg(_undo.redoActionName()).trimmed());
+    _redoAction->setText(redone.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(redone));
     _redoAction->setEnabled(_undo.canRedo());
 }
 

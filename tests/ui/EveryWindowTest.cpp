@@ -23,9 +23,7 @@ namespace ridelog {
 namespace {
 
 class EveryWindow : public TourWindow {
-protected:
-    using Look = std::function<QStringList(QWidget&)>;
-
+public:
     EveryWindow()
     {
         // The same measures wherever the tests run.
@@ -38,6 +36,9 @@ protected:
         QLocale::setDefault(QLocale::c());
         QApplication::setPalette(QPalette());
     }
+
+protected:
+    using Look = std::function<QStringList(QWidget&)>;
 
     /// Looks at every window and panel as riders come to see them.
     void lookAtAll(const Look& look)
@@ -83,7 +84,7 @@ protected:
     }
 
 private:
-    static void trigger(const QWidget& of, QKeySequence keys)
+    static void trigger(const QWidget& of, const QKeySequence& keys)
     {
         for (auto* action : of.findChildren<QAction*>()) {
             if (action->shortcuts().contains(keys)) {
@@ -107,7 +108,7 @@ private:
             ADD_FAILURE() << name << ": " << qPrintable(finding);
     }
     template <typename Panel>
-    void lookAtPanel(const char* name, QWidget& over, QKeySequence keys, const Look& look)
+    void lookAtPanel(const char* name, QWidget& over, const QKeySequence& keys, const Look& look)
     {
         inFront(over);
         whenAsked<Panel>([&](Panel& panel) {

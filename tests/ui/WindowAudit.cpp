@@ -392,7 +392,7 @@ QStringList faintTexts(const QWidget& window)
 {
     QStringList found;
     const auto check = [&](const QWidget& widget, QPalette::ColorRole text, QPalette::ColorRole ground) {
-        const auto palette = widget.palette();
+        const auto& palette = widget.palette();
         const auto ratio =
             contrast(palette.color(QPalette::Active, text), palette.color(QPalette::Active, ground));
         if (ratio < readableContrast)
